@@ -1,0 +1,118 @@
+#include "vt/Attribute_setter.h"
+
+#include "vt/VT_obj.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <type_traits>
+
+namespace VT {
+
+namespace {
+
+template <typename T>
+bool holds(const Attribute_info& info, double number)
+{
+    if constexpr (std::is_floating_point_v<T>) {
+        return std::isfinite(number);
+    } else {
+        const double lowest = std::max<double>(std::numeric_limits<T>::min(), static_cast<double>(info.lowest));
+        const double highest = std::min<double>(std::numeric_limits<T>::max(), static_cast<double>(info.highest));
+        return number >= lowest && number <= highest && number == std::trunc(number);
+    }
+}
+
+template <typename T>
+std::uint32_t raw_of(T value)
+{
+    if constexpr (std::is_floating_point_v<T>) {
+        std::uint32_t raw;
+        static_assert(sizeof raw == sizeof value);
+        std::memcpy(&raw, &value, sizeof raw);
+        return raw;
+    } else {
+        return static_cast<std::uint32_t>(value);
+    }
+}
+
+constexpr const char* not_a_number = "takes a number";
+constexpr const char* out_of_range = "cannot hold that value";
+
+} // namespace
+
+template <typename T>
+void Attribute_setter::set_number(const Attribute_info& info, Attribute<T>& attribute)
+{
+    const Client::Specified_value* const value = wanted(info);
+    if (!value)
+        return;
+    const double* const number = std::get_if<double>(value);
+    if (!number)
+        return refused(info, not_a_number);
+    if (!holds<T>(info, *number))
+        return refused(info, out_of_range);
+    attribute = static_cast<T>(*number);
+    done(info, raw_of<T>(attribute));
+}
+
+void Attribute_setter::attribute(const Attribute_info& info, Attribute_uint8& a) { set_number(info, a); }
+void Attribute_setter::attribute(const Attribute_info& info, Attribute_uint16& a) { set_number(info, a); }
+void Attribute_setter::attribute(const Attribute_info& info, Attribute_int16& a) { set_number(info, a); }
+void Attribute_setter::attribute(const Attribute_info& info, Attribute_uint32& a) { set_number(info, a); }
+void Attribute_setter::attribute(const Attribute_info& info, Attribute_int32& a) { set_number(info, a); }
+void Attribute_setter::attribute(const Attribute_info& info, Attribute_real& a) { set_number(info, a); }
+
+void Attribute_setter::attribute(const Attribute_info& info, Attribute_object_id_spec& reference)
+{
+    set_number(info, static_cast<Attribute_uint16&>(reference));
+}
+
+void Attribute_setter::attribute(const Attribute_info& info, Attribute_colour& colour)
+{
+    const Client::Specified_value* const value = wanted(info);
+    if (!value)
+        return;
+    if (const std::string* const symbol = std::get_if<std::string>(value))
+        return colour.set_symbol(symbol->c_str());
+    const double number = std::get<double>(*value);
+    if (!holds<std::uint8_t>(info, number))
+        return refused(info, out_of_range);
+    colour = static_cast<std::uint8_t>(number);
+    done(info, colour);
+}
+
+void Attribute_setter::attribute(const Attribute_info& info, Attribute_string& string)
+{
+    const Client::Specified_value* const value = wanted(info);
+    if (!value)
+        return;
+    const std::string* const text = std::get_if<std::string>(value);
+    if (!text)
+        return refused(info, "takes a text");
+    if (text->size() > string.item_count)
+        return refused(info, "is too short for that text");
+    std::fill_n(string.buffer, string.item_count, '\0');
+    text->copy(string.buffer, string.item_count);
+    string.set_changed();
+    done(info, 0);
+}
+
+void Attribute_specifier::refused(const Attribute_info& info, const char* why)
+{
+    any_refused = true;
+    object.report(info.name, why);
+}
+
+const Client::Specified_value* Attribute_changer::wanted(const Attribute_info& info)
+{
+    return info.id && std::strcmp(info.name, name) == 0 ? &value : nullptr;
+}
+
+void Attribute_changer::done(const Attribute_info& info, std::uint32_t raw)
+{
+    id = info.id;
+    raw_value = raw;
+}
+
+} // namespace VT

@@ -1,0 +1,35 @@
+#include "vt/Button_obj.h"
+
+#include "vt/Background_colour.h"
+
+namespace VT {
+
+namespace {
+constexpr std::uint8_t disabled = 16;
+}
+
+void Button_obj::set_background_colour(std::uint8_t colour)
+{
+    change_background_colour(*this, background_colour, colour);
+}
+
+void Button_obj::set_enabled(bool enable)
+{
+    options = static_cast<std::uint8_t>(enable ? options & ~disabled : options | disabled);
+    if (!is_live())
+        return;
+    Command(Iso::Function::enable_disable).u16(get_id()).u8(enable).send_to(*get_pool());
+    options.set_told();
+}
+
+void Button_obj::visit(Attribute_visitor& visitor)
+{
+    visit_size(visitor, 1);
+    visitor.attribute({"background_colour", 3}, background_colour);
+    visitor.attribute({"border_colour", 4}, border_colour);
+    visitor.attribute({"key_code", 5}, key_code);
+    visitor.attribute(Attribute_info::ranged("options", 6, 63), options);
+    visit_lists(visitor, *this, *this);
+}
+
+} // namespace VT

@@ -1,0 +1,31 @@
+#include "vt/Input_number_obj.h"
+
+#include "vt/Command.h"
+
+namespace VT {
+
+namespace {
+constexpr std::uint8_t enabled = 1;
+}
+
+void Input_number_obj::set_enabled(bool enable)
+{
+    options_2 = static_cast<std::uint8_t>(enable ? options_2 | enabled : options_2 & ~enabled);
+    if (!is_live())
+        return;
+    Command(Iso::Function::enable_disable).u16(get_id()).u8(enable).send_to(*get_pool());
+    options_2.set_told();
+}
+
+void Input_number_obj::visit(Attribute_visitor& visitor)
+{
+    visit_field(visitor, 15);
+    visitor.attribute({"value"}, value);
+    visitor.attribute({"min_value", 7}, min_value);
+    visitor.attribute({"max_value", 8}, max_value);
+    visit_format(visitor, 9);
+    visitor.attribute(Attribute_info::ranged("options_2", 15, 3), options_2);
+    visit_macros(visitor);
+}
+
+} // namespace VT

@@ -1,0 +1,71 @@
+#include "vt/Mask_obj.h"
+
+#include "vt/Background_colour.h"
+
+namespace VT {
+
+void Parent_obj::set_background_colour(std::uint8_t colour)
+{
+    change_background_colour(*this, background_colour, colour);
+}
+
+void Parent_obj::add_child(VT_obj& child, std::int16_t x, std::int16_t y)
+{
+    children.push_back(&child);
+    Attribute_object_placement placement;
+    placement.x = x;
+    placement.y = y;
+    placements.push_back(placement);
+}
+
+void Parent_obj::write_children()
+{
+    for (std::size_t i = 0; i < children.size(); ++i)
+        placements[i].object_id = children[i]->get_id();
+    objects = placements.data();
+    num_objects = static_cast<std::uint8_t>(placements.size());
+}
+
+void Mask_obj::set_soft_key_mask(Soft_key_mask_obj* keys)
+{
+    soft_keys = keys;
+    if (get_id() == NULL_ID)
+        return;
+    soft_key_mask = keys ? keys->get_id() : NULL_ID;
+    if (!is_live())
+        return;
+    const bool alarm = get_type() == Iso::Object_type::alarm_mask;
+    Command(Iso::Function::change_soft_key_mask)
+        .u8(alarm ? 2 : 1)
+        .u16(get_id())
+        .u16(soft_key_mask)
+        .send_to(*get_pool());
+    soft_key_mask.set_told();
+}
+
+void Soft_key_mask_obj::visit(Attribute_visitor& visitor)
+{
+    visitor.attribute({"background_colour", 1}, background_colour);
+    visitor.count(num_objects);
+    visitor.count(num_macros);
+    visitor.keys(objects, num_objects);
+    visitor.macros(macros, num_macros);
+}
+
+void Data_mask_obj::visit(Attribute_visitor& visitor)
+{
+    visitor.attribute({"background_colour", 1}, background_colour);
+    visitor.attribute({"soft_key_mask", 2}, soft_key_mask);
+    visit_lists(visitor, *this, *this);
+}
+
+void Alarm_mask_obj::visit(Attribute_visitor& visitor)
+{
+    visitor.attribute({"background_colour", 1}, background_colour);
+    visitor.attribute({"soft_key_mask", 2}, soft_key_mask);
+    visitor.attribute(Attribute_info::ranged("priority", 3, 2), priority);
+    visitor.attribute(Attribute_info::ranged("acoustic_signal", 4, 3), acoustic_signal);
+    visit_lists(visitor, *this, *this);
+}
+
+} // namespace VT

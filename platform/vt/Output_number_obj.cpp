@@ -1,0 +1,13 @@
+#include "vt/Output_number_obj.h"
+
+namespace VT {
+
+void Output_number_obj::visit(Attribute_visitor& visitor)
+{
+    visit_field(visitor, 15);
+    visitor.attribute({"value", 12}, value);
+    visit_format(visitor, 7);
+    visit_macros(visitor);
+}
+
+} // namespace VT
