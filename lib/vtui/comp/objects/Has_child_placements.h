@@ -1,0 +1,78 @@
+#ifndef VTUI_COMP_HAS_CHILD_PLACEMENTS_H
+#define VTUI_COMP_HAS_CHILD_PLACEMENTS_H
+
+#include "util/Fatal.h"
+#include "vt/Attribute.h"
+#include "vt/VT_obj.h"
+#include "vtui/comp/objects/Array_array.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace VT::Comp {
+
+/// A child and where it lies in its parent.
+struct Child_placement
+{
+    constexpr Child_placement() = default;
+    constexpr Child_placement(VT::VT_obj* child, std::int16_t left, std::int16_t top) : ref(child), x(left), y(top) {}
+
+    VT::VT_obj* ref{nullptr}; ///< not owned
+    std::int16_t x{0};        ///< left edge, pixels from the parent's
+    std::int16_t y{0};        ///< top edge, pixels from the parent's
+};
+
+/// The children of one parent, as many as its component has room for. The component computes placements and writes them
+/// out into the attributes that the parent's object list consists of.
+class VTUI_EXPORT Child_placements
+{
+  public:
+    /// The first of size() consecutive attributes.
+    virtual VT::Attribute_object_placement* get() = 0;
+    virtual std::size_t size() const = 0;
+    /// Writes every placement into its attribute, in order. A placement without a child ends the process.
+    virtual void deref() = 0;
+    virtual ~Child_placements() = default;
+
+    /// The placement of child `i`, for the pool: it has to find the children before they have ids.
+    virtual Child_placement& placement(std::size_t i) = 0;
+};
+
+template <template <typename> class Array_type>
+class Child_placements_array : public Child_placements
+{
+  public:
+    Array_type<Child_placement> placements;
+    Array_type<VT::Attribute_object_placement> attributes;
+
+    VT::Attribute_object_placement* get() override { return &attributes[0]; }
+    std::size_t size() const override { return attributes.size(); }
+    void deref() override;
+    Child_placement& placement(std::size_t i) override { return placements[i]; }
+};
+
+template <template <typename> class Array_type>
+void Child_placements_array<Array_type>::deref()
+{
+    for (std::size_t i = 0; i < placements.size(); ++i) {
+        const Child_placement& child = placements[i];
+        if (!child.ref)
+            Fatal::assertion("false", "../../../../lib/vtui/comp/objects/Has_child_placements", 213,
+                             __PRETTY_FUNCTION__);
+        VT::Attribute_object_placement& attribute = attributes[i];
+        attribute.object_id = child.ref->get_id();
+        attribute.x = child.x;
+        attribute.y = child.y;
+    }
+}
+
+/// A parent whose children a component places.
+class Has_child_placements
+{
+  public:
+    Child_placements* placements_ptr{nullptr}; ///< not owned; the component's own array
+};
+
+} // namespace VT::Comp
+
+#endif

@@ -1,0 +1,12 @@
+#include "vtui/comp/objects/Object.h"
+
+#include "util/Fatal.h"
+
+namespace VT::Comp {
+
+Object::Object(const Object&)
+{
+    Fatal::assertion("false", "../../../../lib/vtui/comp/objects/Object", 165, __PRETTY_FUNCTION__);
+}
+
+} // namespace VT::Comp

@@ -1,0 +1,29 @@
+#ifndef VTUI_COMP_OUTPUT_NUMBER_OBJ_H
+#define VTUI_COMP_OUTPUT_NUMBER_OBJ_H
+
+#include "vt/Output_number_obj.h"
+#include "vtui/comp/objects/Font_attributes_obj.h"
+#include "vtui/comp/objects/Link.h"
+#include "vtui/comp/objects/Object.h"
+
+namespace VT::Comp {
+
+/// A number that is only shown.
+class VTUI_EXPORT Output_number_obj : public Has_macros, public Object, public VT::Output_number_obj
+{
+  public:
+    Output_number_obj() : VT::Output_number_obj(NULL_ID, nullptr, 0, 0, 0, NULL_ID, 0, NULL_ID, 0, 0, 1.0F, 0, 0, 0, 0)
+    {}
+    ~Output_number_obj() override;
+
+    void set_font(Font_attributes_obj* new_font)
+    {
+        set_link(*this, font, new_font, &VT::Output_number_obj::set_font_attributes);
+    }
+
+    Font_attributes_obj* font{nullptr};
+};
+
+} // namespace VT::Comp
+
+#endif

@@ -1,0 +1,7 @@
+#include "vt/Resolve_colour.h"
+
+namespace VT::Resolve_colour {
+
+template VTUI_EXPORT bool List<Attribute_node>::resolve_colours(unsigned char (*resolve)(Attribute_node&));
+
+} // namespace VT::Resolve_colour
