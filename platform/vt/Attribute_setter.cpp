@@ -53,7 +53,8 @@ void Attribute_setter::set_number(const Attribute_info& info, Attribute<T>& attr
     if (!holds<T>(info, *number))
         return refused(info, out_of_range);
     attribute = static_cast<T>(*number);
-    done(info, raw_of<T>(attribute));
+    if (done(info, raw_of<T>(attribute)))
+        attribute.set_told();
 }
 
 void Attribute_setter::attribute(const Attribute_info& info, Attribute_uint8& a) { set_number(info, a); }
@@ -79,7 +80,8 @@ void Attribute_setter::attribute(const Attribute_info& info, Attribute_colour& c
     if (!holds<std::uint8_t>(info, number))
         return refused(info, out_of_range);
     colour = static_cast<std::uint8_t>(number);
-    done(info, colour);
+    if (done(info, colour))
+        colour.set_told();
 }
 
 void Attribute_setter::attribute(const Attribute_info& info, Attribute_string& string)
@@ -109,10 +111,10 @@ const Client::Specified_value* Attribute_changer::wanted(const Attribute_info& i
     return info.id && std::strcmp(info.name, name) == 0 ? &value : nullptr;
 }
 
-void Attribute_changer::done(const Attribute_info& info, std::uint32_t raw)
+bool Attribute_changer::done(const Attribute_info& info, std::uint32_t raw)
 {
-    id = info.id;
-    raw_value = raw;
+    any_done = true;
+    return object.send_change_attribute(info.id, raw);
 }
 
 } // namespace VT

@@ -11,7 +11,7 @@ namespace VT {
 class VT_obj;
 
 /// Sets attributes by their names from values that come from outside, and refuses what an attribute cannot hold.
-class Attribute_setter : public Attribute_visitor
+class VTUI_EXPORT Attribute_setter : public Attribute_visitor
 {
   public:
     void attribute(const Attribute_info&, Attribute_uint8&) final;
@@ -27,8 +27,8 @@ class Attribute_setter : public Attribute_visitor
   protected:
     /// The value for an attribute, or null to leave it alone.
     virtual const Client::Specified_value* wanted(const Attribute_info&) = 0;
-    /// `raw` is the value as Change Attribute carries it.
-    virtual void done(const Attribute_info&, std::uint32_t raw) = 0;
+    /// The value is set; `raw` is how Change Attribute carries it. True if the terminal has been told.
+    virtual bool done(const Attribute_info&, std::uint32_t raw) = 0;
     virtual void refused(const Attribute_info&, const char* why) = 0;
 
   private:
@@ -37,7 +37,7 @@ class Attribute_setter : public Attribute_visitor
 };
 
 /// Gives one object everything that a specification says about it and reports what it had to refuse.
-class Attribute_specifier final : public Attribute_setter
+class VTUI_EXPORT Attribute_specifier final : public Attribute_setter
 {
   public:
     Attribute_specifier(VT_obj& owner, const Client::Object_specification_interface& given)
@@ -48,7 +48,7 @@ class Attribute_specifier final : public Attribute_setter
 
   private:
     const Client::Specified_value* wanted(const Attribute_info& info) override { return specification.find(info.name); }
-    void done(const Attribute_info&, std::uint32_t) override {}
+    bool done(const Attribute_info&, std::uint32_t) override { return false; }
     void refused(const Attribute_info&, const char* why) override;
 
     VT_obj& object;
@@ -56,25 +56,25 @@ class Attribute_specifier final : public Attribute_setter
     bool any_refused{false};
 };
 
-/// Sets the one attribute of a name, if Change Attribute can carry it.
+/// Sets the one attribute of a name, if Change Attribute can carry it, and sends that command if the pool is live.
 class Attribute_changer final : public Attribute_setter
 {
   public:
-    Attribute_changer(const char* attribute, double new_value) : name(attribute), value(new_value) {}
+    Attribute_changer(VT_obj& owner, const char* attribute, double new_value)
+        : object(owner), name(attribute), value(new_value)
+    {}
 
-    /// The id of the attribute that was set; 0 if none was.
-    std::uint8_t changed_id() const { return id; }
-    std::uint32_t raw() const { return raw_value; }
+    bool is_done() const { return any_done; }
 
   private:
     const Client::Specified_value* wanted(const Attribute_info&) override;
-    void done(const Attribute_info&, std::uint32_t) override;
+    bool done(const Attribute_info&, std::uint32_t) override;
     void refused(const Attribute_info&, const char*) override {}
 
+    VT_obj& object;
     const char* name;
     Client::Specified_value value;
-    std::uint8_t id{0};
-    std::uint32_t raw_value{0};
+    bool any_done{false};
 };
 
 } // namespace VT

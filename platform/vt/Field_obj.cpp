@@ -59,7 +59,7 @@ void Number_field_obj::visit_format(Attribute_visitor& visitor, std::uint8_t off
     const auto id = [&](unsigned step) { return static_cast<std::uint8_t>(offset_id + step); };
     visitor.attribute({"offset", id(0)}, offset);
     visitor.attribute({"scale", id(1)}, scale);
-    visitor.attribute({"number_of_decimals", id(2)}, number_of_decimals);
+    visitor.attribute(Attribute_info::ranged("number_of_decimals", id(2), 7), number_of_decimals);
     visitor.attribute(Attribute_info::ranged("format", id(3), 1), format);
     visit_justification(visitor, id(4));
 }

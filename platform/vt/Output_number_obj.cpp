@@ -5,7 +5,7 @@ namespace VT {
 void Output_number_obj::visit(Attribute_visitor& visitor)
 {
     visit_field(visitor, 15);
-    visitor.attribute({"value", 12}, value);
+    visitor.attribute({"value"}, value);
     visit_format(visitor, 7);
     visit_macros(visitor);
 }

@@ -98,12 +98,16 @@ void VT_obj::upload(bool always)
 
 bool VT_obj::change_attribute(const char* name, double value)
 {
-    Attribute_changer changer(name, value);
+    Attribute_changer changer(*this, name, value);
     visit(changer);
-    if (!changer.changed_id())
+    return changer.is_done();
+}
+
+bool VT_obj::send_change_attribute(std::uint8_t attribute_id, std::uint32_t value)
+{
+    if (!is_live())
         return false;
-    if (is_live())
-        send_change_attribute(changer.changed_id(), changer.raw());
+    Command(Iso::Function::change_attribute).u16(get_id()).u8(attribute_id).u32(value).send_to(*get_pool());
     return true;
 }
 
@@ -137,11 +141,6 @@ void VT_obj::__set_scale(std::uint16_t a, std::uint16_t b, std::uint16_t c, std:
 {
     Scaler scaler(a, b, c, d, false);
     visit(scaler);
-}
-
-void VT_obj::send_change_attribute(std::uint8_t attribute_id, std::uint32_t value)
-{
-    Command(Iso::Function::change_attribute).u16(get_id()).u8(attribute_id).u32(value).send_to(*get_pool());
 }
 
 } // namespace VT

@@ -60,14 +60,15 @@ class VTUI_EXPORT VT_obj : public Iso::Iso_object_base
     void change(const Attribute_info& info, Attribute<T>& attribute, T value)
     {
         attribute = value;
-        if (is_live()) {
-            send_change_attribute(info.id, value);
+        if (send_change_attribute(info.id, value))
             attribute.set_told();
-        }
     }
 
   private:
-    void send_change_attribute(std::uint8_t attribute_id, std::uint32_t value);
+    friend class Attribute_changer;
+
+    /// True if the pool is live, so that the terminal has been told.
+    bool send_change_attribute(std::uint8_t attribute_id, std::uint32_t value);
 };
 
 } // namespace VT

@@ -1,6 +1,7 @@
 #include "vtui/comp/objects/Output_string_obj.h"
 
 #include "util/Fatal.h"
+#include "vt/Attribute_setter.h"
 
 #include <string>
 
@@ -25,10 +26,11 @@ bool Output_string_obj::__set_by_spec(const VT::Client::Object_specification_int
 {
     const bool done = VT::Output_string_obj::__set_by_spec(specification);
 
-    const VT::Client::Specified_value* const specified = specification.find("length");
-    if (const double* const new_length = specified ? std::get_if<double>(specified) : nullptr;
-        new_length && *new_length > length)
-        grow(static_cast<std::uint16_t>(*new_length));
+    VT::Attribute_uint16 wanted_length = length;
+    VT::Attribute_specifier specifier(*this, specification);
+    specifier.attribute({"length"}, wanted_length);
+    if (wanted_length > length)
+        grow(wanted_length);
 
     font_attributes.null_check(*this, "font_attributes");
 
@@ -40,7 +42,7 @@ bool Output_string_obj::__set_by_spec(const VT::Client::Object_specification_int
             Fatal::configuration(std::string("The variable referenced by '") + get_name() +
                                  "' is not a String Variable.");
     }
-    return done;
+    return done && specifier.all_done();
 }
 
 } // namespace VT::Comp
