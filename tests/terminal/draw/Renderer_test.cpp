@@ -1,0 +1,331 @@
+#include "terminal/draw/Renderer.h"
+#include "tests/terminal/draw/Ascii.h"
+#include "tests/terminal/draw/Pool_builder.h"
+
+#include "iso11783/Palette.h"
+
+#include <gtest/gtest.h>
+
+namespace terminal {
+namespace {
+
+using Id = Pool_builder::Id;
+constexpr Id none = Pool_builder::none;
+
+class Drawing : public testing::Test
+{
+  protected:
+    /// What a mask with these children looks like, `size` pixels square.
+    std::string mask(const Pool_builder::Places& children, int size)
+    {
+        const Id id = builder.mask(0, children);
+        EXPECT_FALSE(pool.parse(builder.bytes()));
+        return ascii(renderer.draw_mask(pool, pool.find(id), size));
+    }
+
+    Renderer renderer;
+    Object_pool pool;
+    Pool_builder builder;
+    Id line_1 = builder.line_attributes(1, 1);
+    Id line_2 = builder.line_attributes(2, 2);
+    Id fill_3 = builder.fill_attributes(2, 3);
+    Id font_1 = builder.font(1, 0);
+    Id dot = builder.rectangle(1, 1, line_1);
+};
+
+TEST_F(Drawing, HasThePaletteOfTheStandard)
+{
+    const Id mask = builder.mask(12, {});
+    ASSERT_FALSE(pool.parse(builder.bytes()));
+    const QImage image = renderer.draw_mask(pool, pool.find(mask), 2);
+    EXPECT_EQ(image.pixel(1, 1), qRgb(255, 0, 0));
+    ASSERT_EQ(image.colorCount(), 256);
+    for (int i = 0; i < 256; ++i)
+        EXPECT_EQ(image.color(i), 0xFF000000 | Iso::palette_rgb(static_cast<std::uint8_t>(i)));
+}
+
+TEST_F(Drawing, PutsLaterChildrenOnTop)
+{
+    const Id below = builder.rectangle(3, 3, line_1, fill_3);
+    const Id above = builder.rectangle(2, 2, line_2);
+    EXPECT_EQ(mask({{below, 0, 0}, {above, 1, 1}, {dot, 3, 3}}, 4), R"(
+###.
+#22.
+#22.
+...#
+)");
+}
+
+TEST_F(Drawing, CutsChildrenAtTheirContainerAndEveryOneAround)
+{
+    const Id wide = builder.rectangle(9, 9, none, fill_3);
+    const Id inner = builder.container(9, 2, {{wide, -3, -3}});
+    const Id outer = builder.container(3, 9, {{inner, -1, 1}});
+    EXPECT_EQ(mask({{outer, 1, 1}}, 5), R"(
+.....
+.....
+.333.
+.333.
+.....
+)");
+}
+
+TEST_F(Drawing, LeavesHiddenContainersOut)
+{
+    const Id hidden = builder.container(3, 3, {{dot}}, 1);
+    EXPECT_EQ(mask({{hidden}}, 2), "\n..\n..\n");
+}
+
+TEST_F(Drawing, ShowsWhatAPointerPointsAt)
+{
+    const Id pointer = builder.pointer(builder.pointer(dot));
+    const Id empty = builder.pointer(none);
+    EXPECT_EQ(mask({{pointer, 1, 0}, {empty, 0, 0}}, 2), "\n.#\n..\n");
+}
+
+TEST_F(Drawing, DrawsOneObjectAtManyPlaces)
+{
+    EXPECT_EQ(mask({{dot, 0, 0}, {dot, 2, 0}, {dot, 1, 1}}, 3), "\n#.#\n.#.\n...\n");
+}
+
+TEST_F(Drawing, DrawsShapesInTheirAttributes)
+{
+    const Id rectangle = builder.rectangle(5, 5, line_2, fill_3, 1 | 8);
+    const Id line = builder.line(3, 1, line_1);
+    EXPECT_EQ(mask({{rectangle, 0, 0}, {line, 0, 0}}, 6), R"(
+###22.
+33322.
+33322.
+22222.
+22222.
+......
+)");
+}
+
+TEST_F(Drawing, DrawsAnEllipseAndAPolygon)
+{
+    const Id ellipse = builder.ellipse(5, 5, line_1, fill_3);
+    const Id polygon = builder.polygon(4, 3, line_1, none, 3, {0, 0, 3, 1, 0, 2});
+    EXPECT_EQ(mask({{ellipse, 0, 0}, {polygon, 3, 6}}, 9), R"(
+.###.....
+#333#....
+#333#....
+#333#....
+.###.....
+.........
+...##....
+.....##..
+...##....
+)");
+}
+
+TEST_F(Drawing, LeavesShapesWithoutAttributesOut)
+{
+    const Id rectangle = builder.rectangle(3, 3, none);
+    const Id line = builder.line(3, 3, none);
+    EXPECT_EQ(mask({{rectangle}, {line}}, 3), "\n...\n...\n...\n");
+}
+
+TEST_F(Drawing, FillsWithTheLineColourOrNotAtAll)
+{
+    const Id in_line_colour = builder.rectangle(2, 2, line_2, builder.fill_attributes(1, 3), 15);
+    const Id without_line = builder.rectangle(2, 2, none, builder.fill_attributes(1, 3));
+    const Id unfilled = builder.rectangle(2, 2, line_1, builder.fill_attributes(0, 3), 15);
+    EXPECT_EQ(mask({{in_line_colour, 0, 0}, {without_line, 2, 0}, {unfilled, 0, 2}}, 4), R"(
+22..
+22..
+....
+....
+)");
+}
+
+TEST_F(Drawing, FillsWithAPatternFromTheShapesOwnCorner)
+{
+    const Id tile = builder.picture(2, 2, 2, 2, 1, 9, {2, 3, 9, 4});
+    const Id fill = builder.fill_attributes(3, 0, tile);
+    const Id below = builder.rectangle(6, 2, none, fill_3);
+    const Id rectangle = builder.rectangle(5, 3, none, fill);
+    const Id framed = builder.rectangle(4, 3, line_1, fill);
+    const Id round = builder.ellipse(5, 5, none, fill);
+    EXPECT_EQ(mask({{below, 0, 0}, {rectangle, 1, 0}, {framed, 1, 4}, {round, 6, 2}}, 11), R"(
+323232.....
+334343.....
+.23232.323.
+.......4.4.
+.####.23232
+.#4.#..4.4.
+.####..323.
+...........
+...........
+...........
+...........
+)");
+}
+
+TEST_F(Drawing, DrawsPicturesAtTheirWidth)
+{
+    const Id picture = builder.picture(4, 2, 1, 1, 0, 0, {0x12});
+    const Id packed = builder.picture(3, 3, 1, 2, 4 | 1, 5, {1, 2, 1, 5, 1, 3});
+    EXPECT_EQ(mask({{picture, 0, 0}, {packed, 1, 1}}, 4), R"(
+##22
+#223
+....
+....
+)");
+}
+
+TEST_F(Drawing, FillsTheBackgroundOfAStringUnlessTransparent)
+{
+    const Id opaque = builder.string({7, 9, font_1, 2}, "I");
+    const Id transparent = builder.string({6, 8, font_1, 2, 1}, "I");
+    EXPECT_EQ(mask({{opaque, 0, 0}, {transparent, 6, 1}}, 11), R"(
+2###222....
+22#2222###.
+22#2222.#..
+22#2222.#..
+22#2222.#..
+22#2222.#..
+2###222.#..
+2222222###.
+2222222....
+...........
+...........
+)");
+}
+
+TEST_F(Drawing, TakesTextsFromTheirVariable)
+{
+    const Id variable = builder.string_variable("I");
+    const Id by_variable = builder.string({6, 8, font_1}, "W", variable);
+    const Id by_value = builder.string({6, 8, font_1}, "I");
+    const Id input = builder.input_string({6, 8, font_1}, "I");
+    const std::string expected = mask({{by_value}}, 8);
+    EXPECT_NE(expected.find('#'), std::string::npos);
+    EXPECT_EQ(mask({{by_variable}}, 8), expected);
+    EXPECT_EQ(mask({{input}}, 8), expected);
+}
+
+TEST_F(Drawing, WrapsStringsIfTheirOptionsSaySo)
+{
+    const Id two_lines = builder.string({12, 16, font_1, 0, 2}, "AB C");
+    const Id broken = builder.string({12, 16, font_1}, "AB\nC");
+    const Id hyphen = builder.string({12, 16, font_1, 0, 2 | 4}, "A-C");
+    const Id broken_hyphen = builder.string({12, 16, font_1}, "A-\nC");
+    EXPECT_EQ(mask({{two_lines}}, 16), mask({{broken}}, 16));
+    EXPECT_EQ(mask({{hyphen}}, 16), mask({{broken_hyphen}}, 16));
+    EXPECT_NE(mask({{hyphen}}, 16), mask({{broken}}, 16));
+}
+
+TEST_F(Drawing, ShowsNumbersAsTheTextTheyMake)
+{
+    const auto same = [this](Id number, std::string_view text) {
+        const Id string = builder.string({36, 8, font_1, 0, 0, 2}, text);
+        return mask({{number}}, 40) == mask({{string}}, 40);
+    };
+    const Pool_builder::Field right{36, 8, font_1, 0, 0, 2};
+    EXPECT_TRUE(same(builder.number(right, {115, -100, 0.5f, 1}), "7.5"));
+    EXPECT_TRUE(same(builder.input_number(right, {115, -100, 0.5f, 1}), "7.5"));
+    EXPECT_TRUE(same(builder.number(right, {1, 0, 1, 0, 0, builder.number_variable(23)}), "23"));
+    EXPECT_TRUE(same(builder.number(right, {1500, 0, 1, 0, 1}), "2e+03"));
+    EXPECT_TRUE(same(builder.number({36, 8, font_1, 0, 2, 2}, {42}), "000042"));
+    EXPECT_TRUE(same(builder.number({36, 8, font_1, 0, 4, 2}, {0}), ""));
+    EXPECT_TRUE(same(builder.number({36, 8, font_1, 0, 8, 2}, {19, 0, 0.1f}), "1"));
+    EXPECT_FALSE(same(builder.number(right, {7}), "8"));
+}
+
+TEST_F(Drawing, LeavesOnlyTheBackgroundOfAFieldWithoutFont)
+{
+    EXPECT_EQ(mask({{builder.string({2, 1, none, 3}, "I")}, {builder.number({1, 2, none, 4}, {7})}}, 2), "\n43\n4.\n");
+}
+
+TEST_F(Drawing, TicksAnInputBooleanThatIsTrue)
+{
+    const Id off = builder.input_boolean(8, 3, font_1, 0);
+    const Id on = builder.input_boolean(8, 3, font_1, 1);
+    const Id by_variable = builder.input_boolean(8, 3, font_1, 0, builder.number_variable(1));
+    EXPECT_EQ(mask({{off}}, 9).find('#'), std::string::npos);
+    EXPECT_EQ(mask({{on}}, 9), R"(
+33333333.
+333333#3.
+33333#33.
+33333#33.
+3#33#333.
+33#3#333.
+333#3333.
+33333333.
+.........
+)");
+    EXPECT_EQ(mask({{by_variable}}, 9), mask({{on}}, 9));
+}
+
+TEST_F(Drawing, ShowsTheChosenItemOfAnInputList)
+{
+    const Id wide = builder.rectangle(4, 1, line_1);
+    EXPECT_EQ(mask({{builder.input_list(2, 2, 1, {dot, wide})}}, 3), "\n##.\n...\n...\n");
+    EXPECT_EQ(mask({{builder.input_list(2, 2, 1, {dot, wide}, builder.number_variable(0))}}, 3), "\n#..\n...\n...\n");
+    EXPECT_EQ(mask({{builder.input_list(2, 2, 2, {dot, wide})}}, 3), "\n...\n...\n...\n");
+    EXPECT_EQ(mask({{builder.input_list(2, 2, 0, {dot}, builder.number_variable(0xFFFFFFFF))}}, 3),
+              "\n...\n...\n...\n");
+}
+
+TEST_F(Drawing, PutsAButtonsChildrenOnItsFaceInsideTheBorder)
+{
+    const Id wide = builder.rectangle(9, 1, line_1);
+    EXPECT_EQ(mask({{builder.button(11, 10, 3, 5, 0, {{wide, 0, 0}})}}, 11), R"(
+###########
+#5555555558
+#5555555558
+#5555555558
+#555###5558
+#5553335558
+#5555555558
+#5555555558
+#5555555558
+#8888888888
+...........
+)");
+}
+
+TEST_F(Drawing, LooksPressedWhileLatched)
+{
+    const std::string up = mask({{builder.button(20, 20, 3, 5, 1)}}, 20);
+    const std::string down = mask({{builder.button(20, 20, 3, 5, 1 | 2)}}, 20);
+    EXPECT_EQ(up.substr(1, 2), "##");
+    EXPECT_EQ(down.substr(1, 2), "88");
+}
+
+TEST_F(Drawing, LeavesOutWhatAButtonsOptionsSay)
+{
+    constexpr int suppress_border = 4, transparent = 8, disabled = 16, no_border = 32;
+    EXPECT_EQ(mask({{builder.button(10, 9, 3, 5, suppress_border, {{dot}})}}, 10), R"(
+..........
+..........
+..........
+..........
+....#3....
+..........
+..........
+..........
+..........
+..........
+)");
+    EXPECT_EQ(mask({{builder.button(3, 2, 3, 5, no_border, {{dot}})}}, 4), "\n#33.\n333.\n....\n....\n");
+    EXPECT_EQ(mask({{builder.button(3, 2, 3, 5, no_border | transparent, {{dot}})}}, 3), "\n#..\n...\n...\n");
+    EXPECT_EQ(mask({{builder.button(4, 3, 3, 5, no_border | disabled)}}, 4), "\n8383\n3838\n8383\n....\n");
+}
+
+TEST_F(Drawing, OfAButtonSmallerThanItsBorderIsAllBorder)
+{
+    EXPECT_EQ(mask({{builder.button(3, 3, 3, 5, 0, {{dot}})}}, 4), "\n###.\n#58.\n#88.\n....\n");
+}
+
+TEST_F(Drawing, SurvivesReferencesThatLeadNowhere)
+{
+    const Id rectangle = builder.rectangle(2, 2, 999, 998);
+    const Id string = builder.string({2, 2, 997, 4}, "I", 996);
+    EXPECT_EQ(mask({{rectangle}, {string}, {995}, {builder.pointer(994)}}, 2), "\n44\n44\n");
+    EXPECT_EQ(ascii(renderer.draw_mask(pool, Object(), 2)), "\n..\n..\n");
+}
+
+} // namespace
+} // namespace terminal

@@ -1,0 +1,120 @@
+#include "terminal/draw/Renderer.h"
+#include "tests/terminal/Session.h"
+#include "tests/terminal/draw/Ascii.h"
+#include "tests/terminal/draw/Golden.h"
+#include "tests/terminal/draw/Rich_screen.h"
+
+namespace terminal {
+namespace {
+
+using Id = Pool_builder::Id;
+constexpr Id none = Pool_builder::none;
+
+class Screen : public testing::Test
+{
+  protected:
+    static Hardware hardware()
+    {
+        Hardware result;
+        result.mask_size = 6;
+        result.soft_key_width = 2;
+        result.soft_key_height = 3;
+        result.physical_soft_keys = 3;
+        return result;
+    }
+
+    void load(Id mask)
+    {
+        builder.working_set(mask);
+        ASSERT_EQ(session.load(builder.bytes()), accepted);
+    }
+
+    std::string screen(std::size_t first_key = 0) { return ascii(renderer.draw(session.terminal, first_key)); }
+
+    Renderer renderer;
+    Session session{hardware()};
+    Pool_builder builder;
+    Id dot = builder.rectangle(1, 1, builder.line_attributes(1, 1));
+    Id wide = builder.rectangle(9, 9, none, builder.fill_attributes(2, 7));
+};
+
+TEST_F(Screen, IsBlackWithoutAPool)
+{
+    const QImage image = renderer.draw(session.terminal);
+    EXPECT_EQ(image.width(), 10);
+    EXPECT_EQ(image.height(), 6);
+    EXPECT_EQ(image.pixel(9, 5), qRgb(0, 0, 0));
+}
+
+TEST_F(Screen, HasItsSoftKeysInColumnsAtTheRight)
+{
+    const Id first = builder.key(2, {{dot, 1, 1}});
+    const Id second = builder.pointer(builder.key(3, {{wide, 1, 2}}));
+    const Id third = builder.key(4, {});
+    load(builder.mask(5, {{dot, 5, 5}}, builder.soft_key_mask(6, {first, second, third})));
+    EXPECT_EQ(screen(), R"(
+5555552244
+5555552#44
+5555552244
+5555553366
+5555553366
+55555#3766
+)");
+}
+
+TEST_F(Screen, LeavesACellEmptyWhereThePointerIsNull)
+{
+    const Id key = builder.key(2, {});
+    load(builder.mask(5, {}, builder.soft_key_mask(6, {builder.pointer(none), key})));
+    EXPECT_EQ(screen(), R"(
+5555556666
+5555556666
+5555556666
+5555552266
+5555552266
+5555552266
+)");
+}
+
+TEST_F(Screen, MayStartAtALaterKey)
+{
+    const Id two = builder.key(2, {});
+    const Id three = builder.key(3, {});
+    load(builder.mask(5, {}, builder.soft_key_mask(6, {two, three})));
+    EXPECT_EQ(screen(1).substr(0, 12), "\n5555553366\n");
+    EXPECT_EQ(screen(9).substr(0, 12), "\n5555556666\n");
+}
+
+TEST_F(Screen, DrawsOneKeyInACellOfAnySize)
+{
+    const Id key = builder.key(2, {{dot, 1, 1}});
+    load(builder.mask(5, {}, builder.soft_key_mask(6, {key})));
+    const Object_pool& pool = session.terminal.pool();
+    EXPECT_EQ(ascii(renderer.draw_key(pool, pool.find(key), 3, 2)), "\n222\n2#2\n");
+    EXPECT_EQ(ascii(renderer.draw_key(pool, pool.find(dot), 3, 2)), "\n...\n...\n");
+    EXPECT_EQ(ascii(renderer.draw_key(pool, Object(), 3, 2)), "\n...\n...\n");
+}
+
+TEST_F(Screen, FollowsTheCommandsOfTheApplication)
+{
+    const Id mask = builder.mask(5, {{dot, 0, 0}});
+    load(mask);
+    EXPECT_EQ(screen().substr(0, 7), "\n#55555");
+    session.ask(message(0xA7, records::w(mask), 8));
+    EXPECT_EQ(screen().substr(0, 7), "\n#88888");
+}
+
+TEST(RichScreen, LooksAsItDid)
+{
+    Pool_builder builder;
+    builder.working_set(add_rich_screen(builder));
+    Session session;
+    ASSERT_EQ(session.load(builder.bytes()), accepted);
+    Renderer renderer;
+    const QImage picture = renderer.draw(session.terminal);
+    EXPECT_TRUE(matches_golden(picture, "rich_screen"));
+    EXPECT_EQ(renderer.draw(session.terminal), picture) << "a renderer keeps nothing from the picture before";
+}
+
+} // namespace
+} // namespace terminal
