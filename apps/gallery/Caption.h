@@ -1,0 +1,43 @@
+#ifndef GALLERY_CAPTION_H
+#define GALLERY_CAPTION_H
+
+#include "vt/String_variable_obj.h"
+#include "vtui/comp/objects/Dimension.h"
+#include "vtui/comp/objects/Font_attributes_obj.h"
+#include "vtui/comp/objects/Output_string_obj.h"
+
+#include <string>
+
+namespace gallery {
+
+/// A text that stays as it is, in an output string of its own.
+class Caption
+{
+  public:
+    Caption(const char* words, VT::Comp::Font_attributes_obj& font)
+        : text(words), variable(VT::VT_obj::NULL_ID, nullptr, static_cast<std::uint16_t>(text.size()), text.data())
+    {
+        string.set_font(&font);
+        string.set_variable(&variable);
+        string.options = 1; // transparent
+    }
+
+    void set_size(VT::Comp::Dimension size)
+    {
+        string.width = size.width;
+        string.height = size.height;
+    }
+    /// 0 left, 1 middle, 2 right.
+    void set_justification(std::uint8_t horizontal) { string.justification = horizontal; }
+
+    VT::VT_obj& root() { return string; }
+
+  private:
+    std::string text;
+    VT::String_variable_obj variable;
+    VT::Comp::Output_string_obj string;
+};
+
+} // namespace gallery
+
+#endif

@@ -1,0 +1,50 @@
+#include "bench/Class_sizes.h"
+
+#include "vtui/comp/Connection_elements.h"
+#include "vtui/comp/objects/Button_obj.h"
+#include "vtui/comp/objects/Container_obj.h"
+#include "vtui/comp/objects/Input_number_obj.h"
+#include "vtui/comp/objects/Key_obj.h"
+#include "vtui/comp/objects/Line_obj.h"
+#include "vtui/comp/objects/N_state_pointer_obj.h"
+#include "vtui/comp/objects/Output_number_obj.h"
+#include "vtui/comp/objects/Output_string_obj.h"
+#include "vtui/comp/objects/Polygon_obj.h"
+#include "vtui/comp/widgets/Placement_widget.h"
+
+#include <cstdio>
+
+void print_class_sizes()
+{
+    using namespace VT::Comp;
+    struct Row
+    {
+        const char* name;
+        std::size_t bytes;
+    };
+    const Row rows[] = {
+        {"Button_obj", sizeof(Button_obj)},
+        {"Container_obj", sizeof(Container_obj)},
+        {"Fill_attributes_obj", sizeof(Fill_attributes_obj)},
+        {"Font_attributes_obj", sizeof(Font_attributes_obj)},
+        {"Input_number_obj", sizeof(Input_number_obj)},
+        {"Key_obj", sizeof(Key_obj)},
+        {"Line_attributes_obj", sizeof(Line_attributes_obj)},
+        {"Line_obj", sizeof(Line_obj)},
+        {"N_state_pointer_obj<2>", sizeof(N_state_pointer_obj<2>)},
+        {"Object_pointer_obj", sizeof(Object_pointer_obj)},
+        {"Output_number_obj", sizeof(Output_number_obj)},
+        {"Output_string_obj", sizeof(Output_string_obj)},
+        {"Picture_graphic_obj", sizeof(Picture_graphic_obj)},
+        {"Polygon_obj", sizeof(Polygon_obj)},
+        {"Rectangle_obj", sizeof(Rectangle_obj)},
+        {"String_variable_obj<4>", sizeof(String_variable_obj<4>)},
+        {"Child_placements_array<Array_array_4>", sizeof(Child_placements_array<Array_array_4>)},
+        {"Placement_widget", sizeof(Placement_widget)},
+        {"Disable_cover_widget_impl<5>", sizeof(Disable_cover_widget_impl<5>)},
+        {"Connection_elements", sizeof(Connection_elements)},
+    };
+    std::printf("bytes per object, %zu-bit\n", 8 * sizeof(void*));
+    for (const Row& row : rows)
+        std::printf("%8zu  %s\n", row.bytes, row.name);
+}
