@@ -15,7 +15,7 @@ template <typename T>
 bool holds(const Attribute_info& info, double number)
 {
     if constexpr (std::is_floating_point_v<T>) {
-        return std::isfinite(number);
+        return std::abs(number) <= std::numeric_limits<T>::max();
     } else {
         const double lowest = std::max<double>(std::numeric_limits<T>::min(), static_cast<double>(info.lowest));
         const double highest = std::min<double>(std::numeric_limits<T>::max(), static_cast<double>(info.highest));

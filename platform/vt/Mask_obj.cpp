@@ -16,6 +16,8 @@ void Parent_obj::add_child(VT_obj& child, std::int16_t x, std::int16_t y)
     placement.x = x;
     placement.y = y;
     placements.push_back(placement);
+    if (objects) // the pool's list must not point where the placements lay before
+        objects = placements.data();
 }
 
 void Parent_obj::write_children()

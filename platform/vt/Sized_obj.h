@@ -6,14 +6,14 @@
 namespace VT {
 
 /// A parent's children as its record lists them. The pool writes the list; whoever placed the children owns it.
-struct Object_list
+struct VTUI_EXPORT Object_list
 {
     Attribute_object_placement* objects;
     std::uint8_t num_objects;
 };
 
 /// The macros of an object; the list is not owned.
-struct Macro_list
+struct VTUI_EXPORT Macro_list
 {
     const Macro_reference* macros;
     std::uint8_t num_macros;

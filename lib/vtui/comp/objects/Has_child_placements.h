@@ -67,7 +67,7 @@ void Child_placements_array<Array_type>::deref()
 }
 
 /// A parent whose children a component places.
-class Has_child_placements
+class VTUI_EXPORT Has_child_placements
 {
   public:
     Child_placements* placements_ptr{nullptr}; ///< not owned; the component's own array

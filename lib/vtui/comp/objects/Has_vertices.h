@@ -44,7 +44,7 @@ void Vertex_array<Array_type>::deref()
 }
 
 /// A polygon whose points a component computes.
-class Has_vertices
+class VTUI_EXPORT Has_vertices
 {
   public:
     Vertices* vertices_ptr{nullptr}; ///< not owned

@@ -6,7 +6,7 @@
 namespace VT::Comp {
 
 /// The root of all components' classes.
-class Element
+class VTUI_EXPORT Element
 {};
 
 /// What every object wrapper is.
@@ -21,11 +21,11 @@ class VTUI_EXPORT Object : public Element
 };
 
 /// What every component with virtual operations is.
-class Widget : public Element
+class VTUI_EXPORT Widget : public Element
 {};
 
 /// The macros of an object. No component has any.
-class Has_macros
+class VTUI_EXPORT Has_macros
 {
   public:
     const void* macros_ptr{nullptr};

@@ -1,0 +1,135 @@
+#include "pool/Dialogue.h"
+
+#include "iso11783/Function.h"
+#include "pool/Names.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace VT {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds maintenance_period{1000};
+
+/// The version of the terminal's functions that the application is written for.
+constexpr std::uint8_t version = 4;
+
+} // namespace
+
+std::size_t transfer_records(Client::Terminal_link& link, std::vector<std::uint8_t>& message,
+                             const std::function<bool(std::size_t)>& go_on)
+{
+    constexpr std::size_t most = Iso::transport_size - 1;
+    const std::size_t total = message.size() - 1;
+    for (std::size_t sent = 0; sent < total;) {
+        const std::size_t count = std::min(most, total - sent);
+        message[sent] = static_cast<std::uint8_t>(Iso::Function::object_pool_transfer);
+        if (!link.send(message.data() + sent, count + 1))
+            return sent;
+        sent += count;
+        if (go_on && !go_on(sent))
+            return sent;
+    }
+    return total;
+}
+
+bool send_frame(Client::Terminal_link& link, Iso::Function function, std::initializer_list<std::uint8_t> rest)
+{
+    std::array<std::uint8_t, Iso::frame_size> frame;
+    frame.fill(0xFF);
+    frame[0] = static_cast<std::uint8_t>(function);
+    std::copy(rest.begin(), rest.end(), frame.begin() + 1);
+    return link.send(frame.data(), frame.size());
+}
+
+bool send_maintenance(Client::Terminal_link& link, bool first)
+{
+    return send_frame(link, Iso::Function::working_set_maintenance, {first, version});
+}
+
+bool Dialogue::fail(Error error, const std::string& text)
+{
+    problems.push_back({error, Iso::null_id, "", text});
+    return false;
+}
+
+bool Dialogue::send(Iso::Function function, std::initializer_list<std::uint8_t> rest)
+{
+    return send_frame(link, function, rest) || fail(Error::link_refused, "The link refused " + name_of(function));
+}
+
+bool Dialogue::maintain(bool first)
+{
+    maintained = Clock::now();
+    return send_maintenance(link, first) ||
+           fail(Error::link_refused, "The link refused " + name_of(Iso::Function::working_set_maintenance));
+}
+
+template <class T>
+bool Dialogue::wait_for(T& answer, Iso::Function question, milliseconds timeout)
+{
+    const Clock::time_point asked = Clock::now();
+    milliseconds idle{0}; // a link may give up waiting early; it has waited all the same
+    while (idle < timeout && Clock::now() - asked < timeout) {
+        const milliseconds slice = std::min(maintenance_period, timeout - idle);
+        if (link.receive(received, slice)) {
+            const Terminal_message message = decode(received.data(), received.size());
+            if (const T* const wanted = std::get_if<T>(&message)) {
+                answer = *wanted;
+                return true;
+            }
+        } else {
+            idle += slice;
+            if (idle < timeout && !maintain())
+                return false;
+        }
+        if (Clock::now() - maintained >= maintenance_period && !maintain())
+            return false;
+    }
+    return fail(Error::timed_out, "The terminal did not answer " + name_of(question) + " within " +
+                                      std::to_string(timeout.count()) + " ms");
+}
+
+bool Dialogue::ask_hardware(VT_information& information, milliseconds timeout)
+{
+    return send(Iso::Function::get_hardware, {}) && wait_for(information, Iso::Function::get_hardware, timeout);
+}
+
+bool Dialogue::ask_memory(std::size_t pool_size, milliseconds timeout)
+{
+    const auto byte = [pool_size](unsigned i) { return static_cast<std::uint8_t>(pool_size >> (8 * i)); };
+    Memory_response response;
+    if (!send(Iso::Function::get_memory, {0xFF, byte(0), byte(1), byte(2), byte(3)}) ||
+        !wait_for(response, Iso::Function::get_memory, timeout))
+        return false;
+    return response.enough ||
+           fail(Error::not_enough_memory, "The terminal has no room for " + std::to_string(pool_size) + " bytes");
+}
+
+bool Dialogue::transfer(std::vector<std::uint8_t>& message,
+                        const std::function<void(std::size_t, std::size_t)>& progress)
+{
+    const std::size_t total = message.size() - 1;
+    bool alive = true;
+    const std::size_t sent = transfer_records(link, message, [&](std::size_t so_far) {
+        if (progress)
+            progress(so_far, total);
+        return alive = Clock::now() - maintained < maintenance_period || maintain();
+    });
+    if (!alive)
+        return false;
+    return sent == total || fail(Error::link_refused, "The link refused the pool at byte " + std::to_string(sent) +
+                                                          " of " + std::to_string(total));
+}
+
+bool Dialogue::end(End_of_object_pool_response& response, milliseconds timeout)
+{
+    return send(Iso::Function::end_of_object_pool, {}) &&
+           wait_for(response, Iso::Function::end_of_object_pool, timeout);
+}
+
+} // namespace VT

@@ -1,0 +1,283 @@
+#include "pool/Pool.h"
+
+#include "iso11783/Function.h"
+#include "pool/Colours.h"
+#include "pool/Dialogue.h"
+#include "pool/Names.h"
+#include "pool/Preparation.h"
+#include "pool/Record_writer.h"
+#include "pool/Scaling.h"
+#include "vt/Input_number_obj.h"
+#include "vt/Output_string_obj.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <utility>
+
+namespace VT {
+
+Pool::Pool() = default;
+
+Pool::~Pool()
+{
+    for (std::size_t place = 0; place < objects.size(); ++place)
+        if (objects[place])
+            objects[place]->set_pool(nullptr, Iso::null_id);
+}
+
+void Pool::add(VT_obj& object)
+{
+    added.push_back(&object);
+    prepared = false;
+}
+
+void Pool::specify(const std::string& object, const std::string& attribute, double number)
+{
+    specification.set(object, attribute, number);
+}
+
+void Pool::specify(const std::string& object, const std::string& attribute, const std::string& text)
+{
+    specification.set(object, attribute, text);
+}
+
+void Pool::set_colour_resolver(Colour_resolver resolver) { colour_resolver = resolver; }
+
+void Pool::set_designed_size(std::uint16_t pixels) { designed_size = pixels; }
+
+Result Pool::prepare()
+{
+    Result result;
+    std::vector<Problem>& errors = result.errors;
+    Kinds kinds;
+    Preparation run(*this, objects, kinds, errors);
+
+    run.collect(added);
+    if (errors.empty())
+        run.number();
+    if (errors.empty()) {
+        run.write_references();
+        resolve_colours(colour_resolver, *this, Unknown_colours::wait, errors);
+    }
+    if (errors.empty()) {
+        preparing = &result;
+        run.specify(specification, being_specified);
+        preparing = nullptr;
+        // Specified names are set again by the next attempt; they must not outlive the specification in the queue.
+        resolve_colours(colour_resolver, *this, Unknown_colours::are_dropped, errors);
+        specification.report_unused(errors);
+    }
+    if (errors.empty())
+        scale_new(errors);
+
+    prepared = errors.empty();
+    if (!prepared) {
+        run.cancel();
+        return result;
+    }
+    added.clear();
+    if (run.found_any())
+        live = false;
+    return result;
+}
+
+void Pool::scale_new(std::vector<Problem>& errors)
+{
+    if (designed_size == 0 || !terminal_information)
+        return;
+    const Scale by{terminal_information->mask_width, terminal_information->mask_height, designed_size, designed_size};
+    scale(objects, scaled, by, errors);
+    if (errors.empty())
+        scaled = objects.size();
+}
+
+/// Everything that has to be done before records can be written.
+Result Pool::make_ready()
+{
+    if (!prepared)
+        return prepare();
+    Result result;
+    scale_new(result.errors);
+    return result;
+}
+
+void Pool::write_records(Record_writer& writer)
+{
+    largest_record = 0;
+    for (std::size_t place = 0; place < objects.size(); ++place)
+        if (objects[place])
+            largest_record = std::max(largest_record, writer.write(*objects[place]));
+}
+
+Result Pool::serialise(std::vector<std::uint8_t>& records)
+{
+    Result result = make_ready();
+    records.clear();
+    if (result) {
+        Record_writer writer(records, Record_writer::Reader::file);
+        write_records(writer);
+    }
+    return result;
+}
+
+Result Pool::ask_hardware(Client::Terminal_link& terminal, std::chrono::milliseconds timeout)
+{
+    live = false; // the terminal forgets the pool
+    Result result;
+    Dialogue dialogue(terminal, result.errors);
+    VT_information answer{};
+    if (dialogue.begin() && dialogue.ask_hardware(answer, timeout))
+        terminal_information = answer;
+    return result;
+}
+
+Result Pool::load(Client::Terminal_link& terminal, const Progress& progress, const Timeouts& timeouts)
+{
+    link = &terminal;
+    Result result = ask_hardware(terminal, timeouts.answer);
+    if (!result)
+        return result;
+    result = make_ready();
+    if (!result)
+        return result;
+
+    std::vector<std::uint8_t> records{0}; // see transfer_records()
+    Record_writer writer(records, Record_writer::Reader::terminal);
+    write_records(writer);
+    message.reserve(largest_record + Iso::frame_size);
+
+    Dialogue dialogue(terminal, result.errors);
+    End_of_object_pool_response response{};
+    if (!dialogue.ask_memory(records.size() - 1, timeouts.answer) || !dialogue.transfer(records, progress) ||
+        !dialogue.end(response, timeouts.acceptance))
+        return result;
+    if (!response.accepted) {
+        result.errors.push_back(rejection(response));
+        return result;
+    }
+    live = true;
+    return result;
+}
+
+bool Pool::maintain()
+{
+    if (!link)
+        return false;
+    if (send_maintenance(*link, false))
+        return true;
+    lose_link(name_of(Iso::Function::working_set_maintenance));
+    return false;
+}
+
+Terminal_message Pool::receive(const std::uint8_t* received, std::size_t size)
+{
+    Terminal_message decoded = decode(received, size);
+    if (const auto* const entered = std::get_if<VT_change_numeric_value_event>(&decoded)) {
+        auto* const input = dynamic_cast<Input_number_obj*>(find_object(entered->object_id));
+        if (input && input->variable_reference == Iso::null_id) {
+            input->value = entered->value;
+            input->value.set_told(); // the terminal shows it already
+        }
+    } else if (const auto* const response = std::get_if<Command_response>(&decoded)) {
+        if (response->error)
+            note(problem(Error::rejected_command, response->object_id,
+                         "The terminal refused " + name_of(response->function) + " of " + mention(response->object_id) +
+                             " with error bits " + std::to_string(response->error)));
+    } else if (const auto* const judgement = std::get_if<End_of_object_pool_response>(&decoded)) {
+        if (!judgement->accepted)
+            note(rejection(*judgement));
+    }
+    return decoded;
+}
+
+std::vector<Problem> Pool::take_problems() { return std::exchange(problems, {}); }
+
+void Pool::disconnect()
+{
+    live = false;
+    link = nullptr;
+}
+
+void Pool::send(const std::uint8_t* head, std::size_t head_size, const void* tail, std::size_t tail_size)
+{
+    message.clear();
+    Iso::Byte_writer out(message);
+    out.bytes(head, head_size);
+    out.bytes(tail, tail_size);
+    if (message.size() < Iso::frame_size)
+        out.fill(Iso::frame_size - message.size(), 0xFF);
+    if (!link->send(message.data(), message.size()))
+        lose_link(name_of(static_cast<Iso::Function>(*head)));
+}
+
+void Pool::upload(VT_obj& object)
+{
+    message.assign(1, 0); // see transfer_records()
+    const std::size_t size = Record_writer(message, Record_writer::Reader::terminal).write(object);
+    if (transfer_records(*link, message, {}) != size || !send_frame(*link, Iso::Function::end_of_object_pool))
+        lose_link("the record of " + describe(object));
+}
+
+void Pool::set_string(Output_string_obj& object, const char* text)
+{
+    const std::size_t size = object.value.item_count;
+    auto buffer = std::make_unique<char[]>(size);
+    const std::size_t copied = std::min(std::strlen(text), size);
+    std::fill(std::copy_n(text, copied, buffer.get()), buffer.get() + size, ' ');
+    object.hold(std::move(buffer));
+}
+
+void Pool::report(const Iso::Iso_object_base& object, const char* attribute, const char* what)
+{
+    const bool specified = being_specified && being_specified->find(attribute);
+    Problem problem{specified ? Error::refused_value : Error::suspicious_value, object.get_id(), name_of(object),
+                    describe(object) + ": " + attribute + ' ' + what};
+    if (preparing)
+        (specified ? preparing->errors : preparing->warnings).push_back(std::move(problem));
+    else
+        note(std::move(problem));
+}
+
+void Pool::forget(const VT_obj& object)
+{
+    if (objects.find(object.get_id()) == &object)
+        objects.remove(object.get_id());
+}
+
+/// A controller runs for years: nothing may pile up.
+void Pool::note(Problem&& problem)
+{
+    if (problems.size() < most_problems)
+        problems.push_back(std::move(problem));
+}
+
+std::string Pool::mention(Iso::Object_id id) const
+{
+    const VT_obj* const object = find_object(id);
+    return object ? describe(*object) : "object " + std::to_string(id) + " (not in the pool)";
+}
+
+Problem Pool::problem(Error error, Iso::Object_id id, const std::string& text) const
+{
+    const VT_obj* const object = find_object(id);
+    return {error, id, object ? name_of(*object) : "", text};
+}
+
+Problem Pool::rejection(const End_of_object_pool_response& response) const
+{
+    std::string text = "The terminal rejected the pool with error code " + std::to_string(response.error);
+    if (response.faulty_object != Iso::null_id)
+        text += ": " + mention(response.faulty_object);
+    if (response.faulty_parent != Iso::null_id)
+        text += " in " + mention(response.faulty_parent);
+    return problem(Error::rejected_pool, response.faulty_object, text);
+}
+
+void Pool::lose_link(const std::string& refused)
+{
+    disconnect();
+    note({Error::link_refused, Iso::null_id, "", "The link refused " + refused});
+}
+
+} // namespace VT

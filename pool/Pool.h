@@ -1,0 +1,157 @@
+#ifndef POOL_POOL_H
+#define POOL_POOL_H
+
+#include "pool/Object_table.h"
+#include "pool/Result.h"
+#include "pool/Specification.h"
+#include "pool/Terminal_message.h"
+#include "vt/Resolve_colour.h"
+#include "vt/Terminal_link.h"
+#include "vt/VT_obj.h"
+#include "vt/vtui_pool.h"
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace VT {
+
+class Record_writer;
+
+/// How much of the pool the terminal has been sent, of how many bytes.
+using Progress = std::function<void(std::size_t sent, std::size_t total)>;
+
+/// How long the terminal may take for an answer.
+struct Timeouts
+{
+    std::chrono::milliseconds answer{3000};      ///< to a question about itself
+    std::chrono::milliseconds acceptance{30000}; ///< to look through the whole pool
+};
+
+/// The pool of one working set: collects the application's objects, gives them their ids, loads them into a terminal
+/// and keeps the terminal up to date.
+///
+///     VT::Pool pool;
+///     pool.add(working_set);
+///     pool.add(scroll.key_up()); // nothing shows it yet
+///     if (const VT::Result result = pool.load(link); !result)
+///         std::cerr << result.text();
+///
+/// The objects stay the application's. Each belongs to one pool from prepare() until it or the pool is destroyed; one
+/// that is destroyed first leaves its id unused. Objects that were added live until prepare() has taken them in. All
+/// operations belong to one thread.
+class VTUI_EXPORT Pool final : public vtui_pool
+{
+  public:
+    using Colour_resolver = unsigned char (*)(Resolve_colour::Attribute_node&);
+
+    Pool();
+    /// Lets every object go: its pool is null, its id the null id.
+    ~Pool() override;
+    Pool(const Pool&) = delete;
+    Pool& operator=(const Pool&) = delete;
+
+    /// Takes in `object` and everything that it can show, with the next prepare(). One working set must be among the
+    /// objects added.
+    void add(VT_obj& object) override;
+
+    /// Gives an attribute of every object of that name a value before it is loaded: a number, or a text (a string's
+    /// value, the name of a colour). Attributes have the names that their objects show to a visitor.
+    void specify(const std::string& object, const std::string& attribute, double number);
+    void specify(const std::string& object, const std::string& attribute, const std::string& text);
+
+    /// Who knows the palette index of a symbolic colour. Null, as at first: the standard's sixteen colours by their
+    /// names, any other name is an error.
+    void set_colour_resolver(Colour_resolver resolver);
+
+    /// The side of the data mask, pixels, for which the objects are laid out. They are scaled once, when the terminal's
+    /// mask is known. 0, as at first: never scaled.
+    void set_designed_size(std::uint16_t pixels);
+
+    /// Collects what can be reached, gives ids, writes links, placements, colours and specified values into the objects
+    /// and scales them if the terminal's mask is known. May be called again: objects that have been prepared keep id
+    /// and values, new ones are taken in after them. When there are new ones the pool is no longer live.
+    /// After an error nothing has been taken in; mend the cause and call again.
+    Result prepare();
+
+    /// How many ids are given; one of an object that was destroyed counts.
+    std::size_t size() const { return objects.size(); }
+
+    /// The records of all objects, prepared if they are not yet: what an .iop file contains. Replaces the contents of
+    /// `records`.
+    Result serialise(std::vector<std::uint8_t>& records);
+
+    /// Asks a terminal about itself, for laying out the screens before the pool is prepared. The terminal forgets what
+    /// it knew of this working set.
+    Result ask_hardware(Client::Terminal_link& terminal, std::chrono::milliseconds timeout = Timeouts().answer);
+    /// What the terminal said last about itself.
+    const std::optional<VT_information>& information() const { return terminal_information; }
+
+    /// Loads all objects with their present values into the terminal; prepares those that are not yet. The pool is live
+    /// when the terminal has accepted it, and uses `terminal` from then on: until disconnect(), or until it is loaded
+    /// over another link. Also for loading once more when a link came back.
+    Result load(Client::Terminal_link& terminal, const Progress& progress = {}, const Timeouts& timeouts = {});
+
+    /// Tells the terminal that the application is alive; to be called once a second from load() on. False when the link
+    /// refuses it.
+    bool maintain();
+
+    /// Takes a message that the terminal sent while the pool is live and says what it is. Numbers that the operator
+    /// entered are noted in their objects, refused commands and records among the problems.
+    Terminal_message receive(const std::uint8_t* message, std::size_t size);
+
+    /// What went wrong since the last call, oldest first: commands and records that the terminal refused, a link that
+    /// was lost. Of an application that does not ask, the first `most_problems` are kept and the later ones dropped.
+    std::vector<Problem> take_problems();
+    static constexpr std::size_t most_problems = 64;
+
+    /// The link is gone: changes are noted in the objects only, until the next load(). Also happens when the link
+    /// refuses a message.
+    void disconnect();
+
+    // What the objects see of their pool.
+
+    VT_obj* find_object(Iso::Object_id id) const override { return objects.find(id); }
+    bool is_live() const override { return live; }
+    void send(const std::uint8_t* head, std::size_t head_size, const void* tail, std::size_t tail_size) override;
+    void upload(VT_obj& object) override;
+    void set_string(Output_string_obj& object, const char* text) override;
+    void report(const Iso::Iso_object_base& object, const char* attribute, const char* what) override;
+    void forget(const VT_obj& object) override;
+
+  private:
+    void scale_new(std::vector<Problem>& errors);
+    Result make_ready();
+    void write_records(Record_writer& writer);
+    void note(Problem&& problem);
+    std::string mention(Iso::Object_id id) const;
+    Problem problem(Error error, Iso::Object_id id, const std::string& text) const;
+    Problem rejection(const End_of_object_pool_response& response) const;
+    void lose_link(const std::string& refused);
+
+    std::vector<VT_obj*> added; ///< since the last prepare()
+    Object_table objects;
+    std::size_t scaled{0}; ///< places before this one are laid out for the terminal's mask
+    bool prepared{false};
+
+    Specification specification;
+    const Object_specification* being_specified{nullptr};
+    Colour_resolver colour_resolver{nullptr};
+    std::uint16_t designed_size{0};
+    Result* preparing{nullptr}; ///< gets what objects report while values are specified
+    std::vector<Problem> problems;
+
+    std::optional<VT_information> terminal_information;
+    Client::Terminal_link* link{nullptr}; ///< not owned
+    bool live{false};
+    std::size_t largest_record{0};
+    std::vector<std::uint8_t> message; ///< has room for every message of a live pool
+};
+
+} // namespace VT
+
+#endif

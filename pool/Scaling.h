@@ -1,0 +1,28 @@
+#ifndef POOL_SCALING_H
+#define POOL_SCALING_H
+
+#include "pool/Object_table.h"
+#include "pool/Result.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace VT {
+
+/// From the mask that the objects are laid out for to the mask of the terminal, pixels.
+struct Scale
+{
+    std::uint16_t to_width, to_height;
+    std::uint16_t from_width, from_height;
+
+    bool is_none() const { return to_width == from_width && to_height == from_height; }
+};
+
+/// Scales the objects from place `first` on, and the placements of their components with them. Where an object does not
+/// fit 16-bit coordinates any more nothing is scaled and each such object is a problem.
+void scale(const Object_table& objects, std::size_t first, Scale by, std::vector<Problem>& problems);
+
+} // namespace VT
+
+#endif

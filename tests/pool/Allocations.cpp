@@ -1,0 +1,21 @@
+#include "tests/pool/Allocations.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+std::size_t count;
+}
+
+std::size_t allocations() { return count; }
+
+void* operator new(std::size_t size)
+{
+    ++count;
+    if (void* const memory = std::malloc(size ? size : 1))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }

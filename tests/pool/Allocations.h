@@ -1,0 +1,9 @@
+#ifndef TESTS_POOL_ALLOCATIONS_H
+#define TESTS_POOL_ALLOCATIONS_H
+
+#include <cstddef>
+
+/// How often this program has called operator new.
+std::size_t allocations();
+
+#endif

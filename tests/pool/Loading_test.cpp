@@ -1,0 +1,274 @@
+#include "tests/pool/Fake_terminal.h"
+#include "tests/pool/Screen.h"
+#include "vtui/comp/objects/Container_obj.h"
+#include "vtui/comp/objects/Picture_graphic_obj.h"
+
+#include <gtest/gtest.h>
+#include <utility>
+
+using VT::Error;
+using namespace std::chrono_literals;
+
+namespace {
+
+const Bytes first_maintenance = frame(0xFF, 1, 4);
+const Bytes maintenance = frame(0xFF, 0, 4);
+const Bytes get_hardware = frame(0xC7);
+const Bytes end_of_pool = frame(0x12);
+
+/// A pool that needs three transfers: 18 bytes of a screen and a picture of 4000.
+struct Large : Screen
+{
+    Large()
+    {
+        for (std::size_t i = 0; i < pixels.size(); ++i)
+            pixels[i] = static_cast<std::uint8_t>(i * 7);
+        pool.add(picture);
+    }
+
+    Bytes pixels = Bytes(4000 - 17);
+    C::Picture_graphic_obj picture{1, 1, 1, 2, 0, 0, static_cast<std::uint32_t>(pixels.size()), pixels.data()};
+    static constexpr int size = 18 + 4000;
+
+    Bytes all_records() const
+    {
+        return join(own_records(), w(2), 20, w(1), w(1), w(1), 2, 0, 0, d(4000 - 17), 0, pixels);
+    }
+};
+
+VT::Problem only_error(const VT::Result& result)
+{
+    EXPECT_EQ(result.errors.size(), 1u) << result.text();
+    return result.errors.empty() ? VT::Problem{Error::none, 0, "", ""} : result.errors.front();
+}
+
+} // namespace
+
+TEST(PoolLoading, SaysExactlyThis)
+{
+    Screen screen;
+    Fake_terminal terminal;
+    const VT::Result result = screen.pool.load(terminal);
+    ASSERT_TRUE(result) << result.text();
+    EXPECT_TRUE(screen.pool.is_live());
+    EXPECT_EQ(terminal.sent, (std::vector<Bytes>{first_maintenance, get_hardware, frame(0xC0, 0xFF, d(18)),
+                                                 join(0x11, Screen::own_records()), end_of_pool}));
+    ASSERT_TRUE(screen.pool.information());
+    EXPECT_EQ(screen.pool.information()->mask_width, 480);
+    EXPECT_EQ(screen.pool.information()->mask_height, 480);
+    EXPECT_EQ(screen.pool.information()->boot_time, 255);
+    EXPECT_EQ(screen.pool.information()->graphic_mode, 2);
+    EXPECT_EQ(screen.pool.information()->hardware, 3);
+}
+
+TEST(PoolLoading, AsksForTheHardwareAlone)
+{
+    Screen screen;
+    Fake_terminal terminal;
+    ASSERT_TRUE(screen.pool.ask_hardware(terminal));
+    EXPECT_EQ(terminal.sent, (std::vector<Bytes>{first_maintenance, get_hardware}));
+    EXPECT_EQ(screen.pool.information()->mask_width, 480);
+    EXPECT_FALSE(screen.pool.is_live());
+    EXPECT_EQ(screen.mask.get_id(), Iso::null_id);
+}
+
+TEST(PoolLoading, IsUndoneByAskingForTheHardware)
+{
+    Screen screen;
+    Fake_terminal terminal;
+    ASSERT_TRUE(screen.pool.load(terminal));
+    ASSERT_TRUE(screen.pool.ask_hardware(terminal)); // which begins with a first maintenance message
+    EXPECT_FALSE(screen.pool.is_live());
+}
+
+TEST(PoolLoading, CutsThePoolToTransportSessionsAndTellsTheProgress)
+{
+    Large large;
+    Fake_terminal terminal;
+    using Step = std::pair<std::size_t, std::size_t>;
+    std::vector<Step> steps;
+    ASSERT_TRUE(large.pool.load(terminal, [&](std::size_t sent, std::size_t total) {
+        steps.push_back({sent, total});
+    }));
+    EXPECT_EQ(steps, (std::vector<Step>{{1784, Large::size}, {3568, Large::size}, {Large::size, Large::size}}));
+    ASSERT_EQ(terminal.sent.size(), 7u);
+    EXPECT_EQ(terminal.sent[2], frame(0xC0, 0xFF, d(Large::size)));
+    Bytes received;
+    for (std::size_t i = 3; i < 6; ++i) {
+        EXPECT_LE(terminal.sent[i].size(), 1785u);
+        EXPECT_EQ(terminal.sent[i][0], 0x11);
+        received.insert(received.end(), terminal.sent[i].begin() + 1, terminal.sent[i].end());
+    }
+    EXPECT_EQ(received, large.all_records());
+}
+
+TEST(PoolLoading, NamesTheStepAtWhichTheLinkBreaks)
+{
+    const std::pair<std::size_t, const char*> steps[] = {
+        {0, "The link refused Working Set Maintenance"},
+        {1, "The link refused Get Hardware"},
+        {2, "The link refused Get Memory"},
+        {3, "The link refused the pool at byte 0 of 4018"},
+        {4, "The link refused the pool at byte 1784 of 4018"},
+        {5, "The link refused the pool at byte 3568 of 4018"},
+        {6, "The link refused End of Object Pool"},
+    };
+    for (const auto& [messages, text] : steps) {
+        Large large;
+        Fake_terminal terminal;
+        terminal.refuse_from = messages;
+        const VT::Problem error = only_error(large.pool.load(terminal));
+        EXPECT_EQ(error.error, Error::link_refused) << messages;
+        EXPECT_EQ(error.text, text) << messages;
+        EXPECT_EQ(terminal.sent.size(), messages);
+        EXPECT_FALSE(large.pool.is_live());
+
+        Fake_terminal back;
+        EXPECT_TRUE(large.pool.load(back)) << messages;
+        EXPECT_EQ(back.sent.size(), 7u);
+    }
+}
+
+TEST(PoolLoading, DoesNotWaitForEver)
+{
+    const std::pair<std::uint8_t, const char*> questions[] = {
+        {0xC7, "The terminal did not answer Get Hardware within 2500 ms"},
+        {0xC0, "The terminal did not answer Get Memory within 2500 ms"},
+        {0x12, "The terminal did not answer End of Object Pool within 3500 ms"},
+    };
+    for (const auto& [function, text] : questions) {
+        Screen screen;
+        Fake_terminal terminal;
+        terminal.answers.erase(function);
+        const VT::Problem error = only_error(screen.pool.load(terminal, {}, {2500ms, 3500ms}));
+        EXPECT_EQ(error.error, Error::timed_out);
+        EXPECT_EQ(error.text, text);
+        EXPECT_FALSE(screen.pool.is_live());
+        // Alive all the time: the fake link does not wait, but each time-out counts as the second it was asked for.
+        const std::size_t seconds = function == 0x12 ? 3 : 2;
+        ASSERT_GT(terminal.sent.size(), seconds);
+        for (std::size_t i = 0; i < seconds; ++i)
+            EXPECT_EQ(terminal.sent[terminal.sent.size() - 1 - i], maintenance);
+        EXPECT_EQ(terminal.sent[terminal.sent.size() - 1 - seconds][0], function);
+    }
+}
+
+TEST(PoolLoading, IsNotKeptFromTimingOutByOtherMessages)
+{
+    class Chatterbox final : public VT::Client::Terminal_link
+    {
+      public:
+        bool send(const std::uint8_t*, std::size_t) override { return true; }
+        bool receive(std::vector<std::uint8_t>& message, std::chrono::milliseconds) override
+        {
+            message = frame(0xFE, 0x26, w(1), w(0xFFFF), 0, 0);
+            return true;
+        }
+    } terminal;
+    Screen screen;
+    EXPECT_EQ(only_error(screen.pool.ask_hardware(terminal, 30ms)).text,
+              "The terminal did not answer Get Hardware within 30 ms");
+}
+
+TEST(PoolLoading, EndsWhenTheTerminalHasNoMemory)
+{
+    Screen screen;
+    Fake_terminal terminal;
+    terminal.answers[0xC0] = frame(0xC0, 4, 1);
+    const VT::Problem error = only_error(screen.pool.load(terminal));
+    EXPECT_EQ(error.error, Error::not_enough_memory);
+    EXPECT_EQ(error.text, "The terminal has no room for 18 bytes");
+    EXPECT_EQ(terminal.sent.size(), 3u);
+}
+
+TEST(PoolLoading, NamesTheObjectsThatTheTerminalRejects)
+{
+    C::Container_obj container;
+    container.set_name("frame");
+    Screen screen;
+    screen.mask.add(container, 0, 0);
+    Fake_terminal terminal;
+    terminal.answers[0x12] = frame(0x12, 1, w(1), w(2), 4);
+    VT::Problem error = only_error(screen.pool.load(terminal));
+    EXPECT_EQ(error.error, Error::rejected_pool);
+    EXPECT_EQ(error.object, "frame");
+    EXPECT_EQ(error.id, 2);
+    EXPECT_EQ(error.text, "The terminal rejected the pool with error code 4: container 'frame' (2) in data mask 1");
+    EXPECT_FALSE(screen.pool.is_live());
+
+    terminal.answers[0x12] = frame(0x12, 1, w(0xFFFF), w(77), 2);
+    error = only_error(screen.pool.load(terminal));
+    EXPECT_EQ(error.text, "The terminal rejected the pool with error code 2: object 77 (not in the pool)");
+    EXPECT_EQ(error.object, "");
+
+    terminal.answers[0x12] = frame(0x12, 1, w(0xFFFF), w(0xFFFF), 8);
+    EXPECT_EQ(only_error(screen.pool.load(terminal)).text, "The terminal rejected the pool with error code 8");
+}
+
+TEST(PoolLoading, SendsNothingOfAPoolThatCannotBePrepared)
+{
+    C::Container_obj container;
+    VT::Pool pool;
+    pool.add(container);
+    Fake_terminal terminal;
+    EXPECT_EQ(only_error(pool.load(terminal)).error, Error::no_working_set);
+    EXPECT_EQ(terminal.sent, (std::vector<Bytes>{first_maintenance, get_hardware}));
+}
+
+TEST(PoolLoading, BringsThePresentValuesBack)
+{
+    C::Container_obj container;
+    Screen screen;
+    screen.mask.add(container, 3, 4);
+    Fake_terminal terminal;
+    ASSERT_TRUE(screen.pool.load(terminal));
+    container.change_size(100, 50);
+    terminal.take_sent();
+    terminal.refuse_from = 0;
+    container.set_child_location(0, 0, 0); // no child, nothing said
+    EXPECT_TRUE(screen.pool.is_live());
+    container.set_hidden(true);
+    EXPECT_FALSE(screen.pool.is_live());
+    screen.mask.set_background_colour(9); // noted while the link is down
+
+    Fake_terminal back;
+    ASSERT_TRUE(screen.pool.load(back));
+    EXPECT_EQ(back.sent[3], join(0x11, w(0), 0, 0, 1, w(1), 0, 0, 0,            //
+                                 w(1), 1, 9, w(0xFFFF), 1, 0, w(2), w(3), w(4), //
+                                 w(2), 3, w(100), w(50), 1, 0, 0));
+    back.take_sent();
+    container.set_hidden(false);
+    EXPECT_EQ(back.sent, (std::vector<Bytes>{frame(0xA0, w(2), 1)}));
+    EXPECT_TRUE(terminal.sent.empty());
+}
+
+TEST(PoolLoading, IsMaintainedBySecondBySecondMessages)
+{
+    Screen screen;
+    EXPECT_FALSE(screen.pool.maintain());
+    Fake_terminal terminal;
+    ASSERT_TRUE(screen.pool.load(terminal));
+    terminal.take_sent();
+    EXPECT_TRUE(screen.pool.maintain());
+    EXPECT_EQ(terminal.take_sent(), (std::vector<Bytes>{maintenance}));
+    terminal.refuse_from = 0;
+    EXPECT_FALSE(screen.pool.maintain());
+    EXPECT_FALSE(screen.pool.is_live());
+}
+
+TEST(PoolLoading, EndsWithNewObjectsUntilTheyAreLoaded)
+{
+    C::Container_obj late;
+    Screen screen;
+    Fake_terminal terminal;
+    ASSERT_TRUE(screen.pool.load(terminal));
+    ASSERT_TRUE(screen.pool.prepare());
+    EXPECT_TRUE(screen.pool.is_live());
+    screen.pool.add(late);
+    late.set_hidden(true);
+    EXPECT_TRUE(screen.pool.is_live());
+    ASSERT_TRUE(screen.pool.prepare());
+    EXPECT_FALSE(screen.pool.is_live());
+    ASSERT_TRUE(screen.pool.load(terminal));
+    EXPECT_TRUE(screen.pool.is_live());
+}
