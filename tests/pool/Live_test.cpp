@@ -1,4 +1,4 @@
-#include "tests/pool/Allocations.h"
+#include "tests/Allocations.h"
 #include "tests/pool/Fake_terminal.h"
 #include "tests/pool/Screen.h"
 #include "vtui/comp/objects/Button_obj.h"

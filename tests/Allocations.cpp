@@ -1,4 +1,4 @@
-#include "tests/pool/Allocations.h"
+#include "tests/Allocations.h"
 
 #include <cstdlib>
 #include <new>

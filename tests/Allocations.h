@@ -1,5 +1,5 @@
-#ifndef TESTS_POOL_ALLOCATIONS_H
-#define TESTS_POOL_ALLOCATIONS_H
+#ifndef TESTS_ALLOCATIONS_H
+#define TESTS_ALLOCATIONS_H
 
 #include <cstddef>
 

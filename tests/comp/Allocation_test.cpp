@@ -1,0 +1,197 @@
+#include "tests/Fake_pool.h"
+#include "tests/Allocations.h"
+#include "vt/Button_obj.h"
+#include "vt/Mask_obj.h"
+#include "vt/Working_set_obj.h"
+#include "vtui/comp/Connection_elements.h"
+#include "vtui/comp/objects/Button_obj.h"
+#include "vtui/comp/objects/Input_number_obj.h"
+#include "vtui/comp/objects/Line_obj.h"
+#include "vtui/comp/objects/N_state_pointer_obj.h"
+#include "vtui/comp/objects/Output_number_obj.h"
+#include "vtui/comp/objects/Output_string_obj.h"
+#include "vtui/comp/objects/Polygon_obj.h"
+#include "vtui/comp/widgets/Placement_widget.h"
+
+#include <gtest/gtest.h>
+
+using namespace VT::Comp;
+
+namespace {
+
+/// How often `operation` allocates.
+template <typename Operation>
+std::size_t allocations_of(Operation operation)
+{
+    const std::size_t before = allocations();
+    operation();
+    return allocations() - before;
+}
+
+/// A pool that only counts what it is asked to send.
+class Counting_pool final : public Fake_pool
+{
+  public:
+    std::size_t count{0};
+
+    void send(const std::uint8_t*, std::size_t, const void*, std::size_t) override { ++count; }
+    void upload(VT::VT_obj&) override { ++count; }
+};
+
+/// A pool that is live as soon as the objects of a test are in it.
+class Allocation : public ::testing::Test
+{
+  protected:
+    template <typename... Objects>
+    void go_live(Objects&... objects)
+    {
+        Iso::Object_id id = 0;
+        (pool.take(objects, id++), ...);
+        pool.live = true;
+    }
+
+    /// That many messages and not one allocation.
+    template <typename Operation>
+    void expect_sent(std::size_t messages, Operation operation)
+    {
+        pool.count = 0;
+        EXPECT_EQ(allocations_of(operation), 0U);
+        EXPECT_EQ(pool.count, messages);
+    }
+
+    Counting_pool pool;
+};
+
+TEST_F(Allocation, InThisProgramIsCounted)
+{
+    // Called by name: a new expression without an effect may be left out.
+    EXPECT_EQ(allocations_of([] { operator delete(operator new(1)); }), 1U);
+}
+
+TEST_F(Allocation, InTheLibrariesIsCounted)
+{
+    VT::Data_mask_obj mask;
+    EXPECT_GT(allocations_of([&] { mask.add(mask, 0, 0); }), 0U);
+}
+
+TEST_F(Allocation, IsNotNeededToBuildComponents)
+{
+    EXPECT_EQ(allocations_of([] {
+                  Connection_elements set;
+                  Placement_widget widget(Placement_widget::Justification::centre);
+                  Output_string_obj string;
+                  widget.set_content(&string);
+              }),
+              0U);
+}
+
+TEST_F(Allocation, IsNotNeededToLayOutAPlacementWidget)
+{
+    Container_obj content;
+    Placement_widget widget(Placement_widget::Justification::left);
+    const auto lay_out = [&] {
+        widget.set_content(&content);
+        widget.set_justification(Placement_widget::Justification::centre);
+        widget.set_size({100, 50});
+    };
+    EXPECT_EQ(allocations_of(lay_out), 0U);
+    go_live(content, widget.container);
+    EXPECT_EQ(allocations_of(lay_out), 0U);
+}
+
+TEST_F(Allocation, IsNotNeededToSizeTheStyle)
+{
+    Connection_elements set;
+    EXPECT_EQ(allocations_of([&] {
+                  set.set_sizes(480);
+                  set.cover.set_size({1, 1});
+                  set.cover.root_at_size(Dimension(100, 3));
+              }),
+              0U);
+    go_live(set.rect_red, set.cover_512, set.font_0);
+    EXPECT_EQ(allocations_of([&] { set.set_sizes(200); }), 0U);
+}
+
+TEST_F(Allocation, IsNotNeededToFormatATextBeforeAndAfterItHasAnId)
+{
+    String_variable_obj<4> text;
+    EXPECT_EQ(allocations_of([&] { text.format("%u%s", 12U, "abc"); }), 0U);
+    go_live(text);
+    expect_sent(1, [&] { text.format("%u%s", 12U, "abc"); });
+}
+
+TEST_F(Allocation, IsNotNeededToLink)
+{
+    Fill_attributes_obj fill(2, 1);
+    Line_attributes_obj line(0, 1, 0xFFFF);
+    Font_attributes_obj font;
+    Picture_graphic_obj picture(8, 8, 8, 0, 0, 0, 0, nullptr);
+    String_variable_obj<4> text;
+    Rectangle_obj rectangle;
+    Polygon_obj polygon;
+    Line_obj stroke(1, 1, 0);
+    Output_number_obj output;
+    Input_number_obj input;
+    Output_string_obj string;
+    Object_pointer_obj pointer;
+    const auto link = [&] {
+        rectangle.set_fill(&fill);
+        rectangle.set_line(&line);
+        polygon.set_fill(&fill);
+        polygon.set_line(nullptr);
+        stroke.set_line(&line);
+        fill.set_pattern(&picture);
+        output.set_font(&font);
+        input.set_font(&font);
+        string.set_font(&font);
+        string.set_variable(&text);
+        pointer.set_target(&rectangle);
+    };
+    expect_sent(0, link);
+    go_live(fill, line, font, picture, text, rectangle, polygon, stroke, output, input, string, pointer);
+    expect_sent(11, link);
+}
+
+TEST_F(Allocation, IsNotNeededToChangeAState)
+{
+    Container_obj off;
+    Container_obj on;
+    N_state_pointer_obj<2> pointer({&off, &on});
+    expect_sent(0, [&] { pointer.set_state(1); });
+    go_live(off, on, pointer);
+    expect_sent(1, [&] { pointer.set_state(0); });
+}
+
+TEST_F(Allocation, IsNotNeededToSendACommand)
+{
+    VT::Attribute_object_placement children[3];
+    children[0].object_id = std::uint16_t{7};
+    children[1].object_id = std::uint16_t{8};
+    children[2].object_id = std::uint16_t{8};
+    Container_obj container;
+    container.objects = children;
+    container.num_objects = 3;
+    Rectangle_obj rectangle;
+    Button_obj button;
+    Input_number_obj number;
+    VT::Data_mask_obj mask;
+    VT::Soft_key_mask_obj keys;
+    VT::Working_set_obj set;
+    set.add_mask(mask);
+    go_live(container, rectangle, button, number, mask, keys, set);
+    expect_sent(1, [&] { container.set_hidden(true); });
+    expect_sent(1, [&] { container.set_child_location(0, 1, 2); });
+    expect_sent(1, [&] { container.set_child_location(1, 1, 2); });
+    expect_sent(1, [&] { rectangle.change_size(1, 2); });
+    expect_sent(1, [&] { button.set_background_colour(3); });
+    expect_sent(1, [&] { button.set_enabled(false); });
+    expect_sent(1, [&] { number.set_enabled(true); });
+    expect_sent(1, [&] { number.set_value(3); });
+    expect_sent(1, [&] { number.change_attribute("max_value", 3); });
+    expect_sent(0, [&] { number.upload(false); });
+    expect_sent(1, [&] { number.upload(true); });
+    expect_sent(1, [&] { mask.set_soft_key_mask(&keys); });
+    expect_sent(1, [&] { set.set_active_mask(mask); });
+}
+
+} // namespace
