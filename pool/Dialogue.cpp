@@ -82,6 +82,9 @@ bool Dialogue::wait_for(T& answer, Iso::Function question, milliseconds timeout)
                 answer = *wanted;
                 return true;
             }
+            const auto* const unknown = std::get_if<Unsupported_function_response>(&message);
+            if (unknown && unknown->function == question)
+                return fail(Error::unusable_terminal, "The terminal does not know " + name_of(question));
         } else {
             idle += slice;
             if (idle < timeout && !maintain())
@@ -96,7 +99,10 @@ bool Dialogue::wait_for(T& answer, Iso::Function question, milliseconds timeout)
 
 bool Dialogue::ask_hardware(VT_information& information, milliseconds timeout)
 {
-    return send(Iso::Function::get_hardware, {}) && wait_for(information, Iso::Function::get_hardware, timeout);
+    if (!send(Iso::Function::get_hardware, {}) || !wait_for(information, Iso::Function::get_hardware, timeout))
+        return false;
+    return (information.mask_width != 0 && information.mask_height != 0) ||
+           fail(Error::unusable_terminal, "The terminal says that its data mask has no pixels");
 }
 
 bool Dialogue::ask_memory(std::size_t pool_size, milliseconds timeout)

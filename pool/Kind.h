@@ -78,6 +78,26 @@ inline Object_list& list_of(const Kind& kind, VT_obj& object)
     return *reinterpret_cast<Object_list*>(reinterpret_cast<char*>(&object) + kind.list);
 }
 
+/// The component's points of the object, null if it is no polygon or has none.
+inline Comp::Vertices* vertices_of(const Kind& kind, VT_obj& object)
+{
+    return kind.links == Kind::Links::polygon ? static_cast<Comp::Polygon_obj&>(object).vertices_ptr : nullptr;
+}
+
+/// Empties the lists that a pool has written into the object.
+inline void clear_lists(const Kind& kind, VT_obj& object)
+{
+    if (kind.placements)
+        list_of(kind, object) = {nullptr, 0};
+    if (kind.is_parent)
+        static_cast<Object_list&>(static_cast<Parent_obj&>(object)) = {nullptr, 0};
+    if (vertices_of(kind, object)) {
+        auto& polygon = static_cast<Comp::Polygon_obj&>(object);
+        polygon.points = nullptr;
+        polygon.num_points = 0;
+    }
+}
+
 /// Calls `link(target, attribute)` for every link that stands in an attribute of the object; the target may be null.
 template <typename F>
 void for_each_link(const Kind& kind, VT_obj& object, F&& link)

@@ -3,6 +3,7 @@
 #include "iso11783/Function.h"
 #include "pool/Colours.h"
 #include "pool/Dialogue.h"
+#include "pool/Kind.h"
 #include "pool/Names.h"
 #include "pool/Preparation.h"
 #include "pool/Record_writer.h"
@@ -17,20 +18,46 @@
 
 namespace VT {
 
+namespace {
+
+/// Lets a result collect what objects report, for as long as this lives.
+class Listening
+{
+  public:
+    Listening(Result*& place, Result& result) : listener(place) { listener = &result; }
+    ~Listening() { listener = nullptr; }
+    Listening(const Listening&) = delete;
+    Listening& operator=(const Listening&) = delete;
+
+  private:
+    Result*& listener;
+};
+
+} // namespace
+
 Pool::Pool() = default;
 
 Pool::~Pool()
 {
+    // Another pool must not find this one's ids: not in links that have been cleared since, nor in lists.
+    Kinds kinds;
+    for (std::size_t place = 0; place < objects.size(); ++place) {
+        if (!objects[place])
+            continue;
+        VT_obj& object = *objects[place];
+        const Kind& kind = kinds.of(object);
+        for_each_link(kind, object, [this](const VT_obj*, Attribute_object_id_spec& attribute) {
+            if (objects.is_taken(attribute))
+                attribute = Iso::null_id;
+        });
+        clear_lists(kind, object);
+    }
     for (std::size_t place = 0; place < objects.size(); ++place)
         if (objects[place])
             objects[place]->set_pool(nullptr, Iso::null_id);
 }
 
-void Pool::add(VT_obj& object)
-{
-    added.push_back(&object);
-    prepared = false;
-}
+void Pool::add(VT_obj& object) { added.push_back(&object); }
 
 void Pool::specify(const std::string& object, const std::string& attribute, double number)
 {
@@ -42,6 +69,11 @@ void Pool::specify(const std::string& object, const std::string& attribute, cons
     specification.set(object, attribute, text);
 }
 
+void Pool::unspecify(const std::string& object, const std::string& attribute)
+{
+    specification.remove(object, attribute);
+}
+
 void Pool::set_colour_resolver(Colour_resolver resolver) { colour_resolver = resolver; }
 
 void Pool::set_designed_size(std::uint16_t pixels) { designed_size = pixels; }
@@ -49,6 +81,7 @@ void Pool::set_designed_size(std::uint16_t pixels) { designed_size = pixels; }
 Result Pool::prepare()
 {
     Result result;
+    const Listening listening(preparing, result);
     std::vector<Problem>& errors = result.errors;
     Kinds kinds;
     Preparation run(*this, objects, kinds, errors);
@@ -61,18 +94,15 @@ Result Pool::prepare()
         resolve_colours(colour_resolver, *this, Unknown_colours::wait, errors);
     }
     if (errors.empty()) {
-        preparing = &result;
         run.specify(specification, being_specified);
-        preparing = nullptr;
         // Specified names are set again by the next attempt; they must not outlive the specification in the queue.
         resolve_colours(colour_resolver, *this, Unknown_colours::are_dropped, errors);
         specification.report_unused(errors);
     }
     if (errors.empty())
-        scale_new(errors);
+        scale_new(run, result);
 
-    prepared = errors.empty();
-    if (!prepared) {
+    if (!errors.empty()) {
         run.cancel();
         return result;
     }
@@ -82,24 +112,27 @@ Result Pool::prepare()
     return result;
 }
 
-void Pool::scale_new(std::vector<Problem>& errors)
+void Pool::scale_new(const Preparation& run, Result& result)
 {
     if (designed_size == 0 || !terminal_information)
         return;
     const Scale by{terminal_information->mask_width, terminal_information->mask_height, designed_size, designed_size};
-    scale(objects, scaled, by, errors);
-    if (errors.empty())
-        scaled = objects.size();
-}
-
-/// Everything that has to be done before records can be written.
-Result Pool::make_ready()
-{
-    if (!prepared)
-        return prepare();
-    Result result;
-    scale_new(result.errors);
-    return result;
+    if (scaled > 0 && (by.to_width != scaled_width || by.to_height != scaled_height)) {
+        result.warnings.push_back({Error::other_mask_size, Iso::null_id, "",
+                                   "The pool was scaled to a data mask of " + in_pixels(scaled_width, scaled_height) +
+                                       " pixels and stays so; the terminal's has " +
+                                       in_pixels(by.to_width, by.to_height)});
+        return;
+    }
+    scale(objects, scaled, by, result.errors);
+    if (!result.errors.empty())
+        return;
+    if (scaled > 0)
+        for (const Preparation::Late_children& children : run.late_children())
+            scale(children.first, children.count, by);
+    scaled = objects.size();
+    scaled_width = by.to_width;
+    scaled_height = by.to_height;
 }
 
 void Pool::write_records(Record_writer& writer)
@@ -112,7 +145,7 @@ void Pool::write_records(Record_writer& writer)
 
 Result Pool::serialise(std::vector<std::uint8_t>& records)
 {
-    Result result = make_ready();
+    Result result = prepare();
     records.clear();
     if (result) {
         Record_writer writer(records, Record_writer::Reader::file);
@@ -134,11 +167,11 @@ Result Pool::ask_hardware(Client::Terminal_link& terminal, std::chrono::millisec
 
 Result Pool::load(Client::Terminal_link& terminal, const Progress& progress, const Timeouts& timeouts)
 {
-    link = &terminal;
+    disconnect();
     Result result = ask_hardware(terminal, timeouts.answer);
     if (!result)
         return result;
-    result = make_ready();
+    result = prepare();
     if (!result)
         return result;
 
@@ -156,7 +189,12 @@ Result Pool::load(Client::Terminal_link& terminal, const Progress& progress, con
         result.errors.push_back(rejection(response));
         return result;
     }
+    link = &terminal;
     live = true;
+    // What has been changed since the records were written, from within `progress`.
+    for (std::size_t place = 0; place < objects.size() && live; ++place)
+        if (objects[place])
+            objects[place]->upload(false);
     return result;
 }
 
@@ -184,6 +222,8 @@ Terminal_message Pool::receive(const std::uint8_t* received, std::size_t size)
             note(problem(Error::rejected_command, response->object_id,
                          "The terminal refused " + name_of(response->function) + " of " + mention(response->object_id) +
                              " with error bits " + std::to_string(response->error)));
+    } else if (const auto* const unknown = std::get_if<Unsupported_function_response>(&decoded)) {
+        note({Error::rejected_command, Iso::null_id, "", "The terminal does not know " + name_of(unknown->function)});
     } else if (const auto* const judgement = std::get_if<End_of_object_pool_response>(&decoded)) {
         if (!judgement->accepted)
             note(rejection(*judgement));

@@ -20,6 +20,7 @@
 
 namespace VT {
 
+class Preparation;
 class Record_writer;
 
 /// How much of the pool the terminal has been sent, of how many bytes.
@@ -37,13 +38,14 @@ struct Timeouts
 ///
 ///     VT::Pool pool;
 ///     pool.add(working_set);
-///     pool.add(scroll.key_up()); // nothing shows it yet
+///     pool.add(style.cover.root()); // nothing shows it yet
 ///     if (const VT::Result result = pool.load(link); !result)
 ///         std::cerr << result.text();
 ///
-/// The objects stay the application's. Each belongs to one pool from prepare() until it or the pool is destroyed; one
-/// that is destroyed first leaves its id unused. Objects that were added live until prepare() has taken them in. All
-/// operations belong to one thread.
+/// The objects stay the application's. Each belongs to one pool from prepare() until it or the pool is destroyed. What
+/// is destroyed first must not be shown or referred to by anything that stays; its id is not used again. Objects that
+/// were added live until prepare() has taken them in. All pools of a process belong to one thread: they share the queue
+/// of symbolic colours.
 class VTUI_EXPORT Pool final : public vtui_pool
 {
   public:
@@ -63,6 +65,8 @@ class VTUI_EXPORT Pool final : public vtui_pool
     /// value, the name of a colour). Attributes have the names that their objects show to a visitor.
     void specify(const std::string& object, const std::string& attribute, double number);
     void specify(const std::string& object, const std::string& attribute, const std::string& text);
+    /// Takes back what was specified, for instance by mistake.
+    void unspecify(const std::string& object, const std::string& attribute);
 
     /// Who knows the palette index of a symbolic colour. Null, as at first: the standard's sixteen colours by their
     /// names, any other name is an error.
@@ -75,7 +79,8 @@ class VTUI_EXPORT Pool final : public vtui_pool
     /// Collects what can be reached, gives ids, writes links, placements, colours and specified values into the objects
     /// and scales them if the terminal's mask is known. May be called again: objects that have been prepared keep id
     /// and values, new ones are taken in after them. When there are new ones the pool is no longer live.
-    /// After an error nothing has been taken in; mend the cause and call again.
+    /// After an error nothing has been taken in; mend the cause and call again. Values that were specified may stand in
+    /// their objects already.
     Result prepare();
 
     /// How many ids are given; one of an object that was destroyed counts.
@@ -124,8 +129,7 @@ class VTUI_EXPORT Pool final : public vtui_pool
     void forget(const VT_obj& object) override;
 
   private:
-    void scale_new(std::vector<Problem>& errors);
-    Result make_ready();
+    void scale_new(const Preparation& run, Result& result);
     void write_records(Record_writer& writer);
     void note(Problem&& problem);
     std::string mention(Iso::Object_id id) const;
@@ -135,8 +139,9 @@ class VTUI_EXPORT Pool final : public vtui_pool
 
     std::vector<VT_obj*> added; ///< since the last prepare()
     Object_table objects;
-    std::size_t scaled{0}; ///< places before this one are laid out for the terminal's mask
-    bool prepared{false};
+    std::size_t scaled{0}; ///< places before this one are laid out for a mask of the size below
+    std::uint16_t scaled_width{0};
+    std::uint16_t scaled_height{0};
 
     Specification specification;
     const Object_specification* being_specified{nullptr};

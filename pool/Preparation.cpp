@@ -3,6 +3,7 @@
 #include "pool/Names.h"
 
 #include <algorithm>
+#include <mutex>
 #include <string>
 #include <utility>
 
@@ -109,39 +110,47 @@ void Preparation::write_references()
         if (kind->links == Kind::Links::polygon)
             write_points(static_cast<Comp::Polygon_obj&>(*object));
     }
-    for_each_reference_to_new([](const VT_obj& target, auto& attribute) { attribute = target.get_id(); });
+    write_references_to_new();
     write_lists_of_members();
 }
 
-/// Calls `reference(target, attribute)` wherever an older object has come to refer to a new one, which had no id then.
-/// Other references stay as they are now: the attribute may say something newer than the pointer beside it.
-template <typename F>
-void Preparation::for_each_reference_to_new(F&& reference)
+/// Where an older object has come to refer to a new one, which had no id then. Other references stay as they are now:
+/// the attribute may say something newer than the pointer beside it.
+void Preparation::write_references_to_new()
 {
     if (collector.found.empty())
         return;
-    const auto check = [&](const VT_obj* target, auto& attribute) {
-        if (target && objects.is_from(first_new, target->get_id()))
-            reference(*target, attribute);
+    const auto write = [&](const VT_obj* target, Attribute_uint16& attribute) {
+        if (!target || !objects.is_from(first_new, target->get_id()))
+            return;
+        rewritten.push_back({&attribute, attribute});
+        attribute = target->get_id();
     };
     for (std::size_t place = 0; place < first_new; ++place) {
         if (!objects[place])
             continue;
         VT_obj& object = *objects[place];
         const Kind& kind = kinds.of(object);
-        for_each_link(kind, object, check);
+        for_each_link(kind, object, write);
         if (Comp::Child_placements* const children = placements_of(kind, object))
             for (std::size_t i = 0; i < children->size(); ++i)
-                check(children->placement(i).ref, children->get()[i].object_id);
+                write(children->placement(i).ref, children->get()[i].object_id);
     }
 }
 
 /// A mask may have been given more children since it was prepared.
 void Preparation::write_lists_of_members()
 {
-    for (std::size_t place = 0; place < first_new; ++place)
-        if (VT_obj* const object = objects[place]; object && kinds.of(*object).is_parent)
-            static_cast<Parent_obj*>(object)->write_children();
+    for (std::size_t place = 0; place < first_new; ++place) {
+        VT_obj* const object = objects[place];
+        if (!object || !kinds.of(*object).is_parent)
+            continue;
+        auto& parent = static_cast<Parent_obj&>(*object);
+        const std::uint8_t before = parent.num_objects;
+        parent.write_children();
+        if (parent.num_objects > before)
+            late.push_back({parent.objects + before, std::size_t{parent.num_objects} - before});
+    }
 }
 
 void Preparation::specify(Specification& specification, const Object_specification*& current)
@@ -150,29 +159,26 @@ void Preparation::specify(Specification& specification, const Object_specificati
         VT_obj& object = *entry.object;
         const Object_specification& values = specification.of(object);
         current = &values;
-        object.lock();
+        const std::lock_guard hold(object);
         object.__set_by_spec(values); // what it refuses it reports
-        object.unlock();
     }
     current = nullptr;
 }
 
 void Preparation::cancel()
 {
-    for_each_reference_to_new([](const VT_obj&, auto& attribute) { attribute = Iso::null_id; });
+    for (const auto& [attribute, id] : rewritten)
+        *attribute = id;
     for (const auto& [object, kind, own_id] : collector.found) {
         for_each_link(*kind, *object, [](const VT_obj* target, Attribute_object_id_spec& attribute) {
             if (target)
                 attribute = Iso::null_id;
         });
-        if (placements_of(*kind, *object))
-            list_of(*kind, *object) = {nullptr, 0};
-        if (kind->is_parent)
-            static_cast<Object_list&>(static_cast<Parent_obj&>(*object)) = {nullptr, 0};
+        clear_lists(*kind, *object);
         object->set_pool(nullptr, own_id);
     }
     objects.cut(first_new);
-    write_lists_of_members();
+    write_lists_of_members(); // without the new children, which are strangers again
 }
 
 } // namespace VT

@@ -39,11 +39,18 @@ class Preparation
 
     bool found_any() const { return !collector.found.empty(); }
 
+    /// Children that older objects have come to list, by their places in those lists.
+    struct Late_children
+    {
+        Attribute_object_placement* first;
+        std::size_t count;
+    };
+    const std::vector<Late_children>& late_children() const { return late; }
+
   private:
     void check_working_set();
     void write_lists_of_members();
-    template <typename F>
-    void for_each_reference_to_new(F&& reference);
+    void write_references_to_new();
     void fail(Error error, const VT_obj& object, const std::string& text);
 
     Client::Object_pool_interface& pool;
@@ -52,6 +59,15 @@ class Preparation
     std::vector<Problem>& problems;
     std::size_t first_new;
     Collector collector;
+
+    /// What an attribute of an older object said before this run.
+    struct Former
+    {
+        Attribute_uint16* attribute;
+        Iso::Object_id id;
+    };
+    std::vector<Former> rewritten;
+    std::vector<Late_children> late;
 };
 
 } // namespace VT

@@ -1,5 +1,7 @@
 #include "pool/Record_writer.h"
 
+#include <mutex>
+
 namespace VT {
 
 std::size_t Record_writer::write(VT_obj& object)
@@ -7,9 +9,8 @@ std::size_t Record_writer::write(VT_obj& object)
     const std::size_t before = out.size();
     out.u16(object.get_id());
     out.u8(static_cast<std::uint8_t>(object.get_type()));
-    object.lock();
+    const std::lock_guard hold(object);
     object.visit(*this);
-    object.unlock();
     return out.size() - before;
 }
 

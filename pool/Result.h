@@ -24,6 +24,8 @@ enum class Error : std::uint8_t {
     refused_value,     ///< a specified value that the attribute cannot hold
     unknown_colour,    ///< a symbolic colour that nobody knows
     does_not_fit,      ///< the object would leave 16-bit coordinates when the pool is scaled
+    other_mask_size,   ///< the pool was scaled for a terminal of another size
+    unusable_terminal, ///< the terminal says something of itself that cannot be
     link_refused,      ///< the link took no more messages
     timed_out,         ///< the terminal did not answer
     not_enough_memory, ///< the terminal has no room for the pool
@@ -42,7 +44,7 @@ struct Problem
 };
 
 /// How preparing or loading a pool ended: true when there are no errors. Warnings do not keep a pool from working.
-struct VTUI_EXPORT Result
+struct [[nodiscard]] Result
 {
     std::vector<Problem> errors; ///< in the order they were found; where several are found at once, all of them
     std::vector<Problem> warnings;
@@ -52,7 +54,7 @@ struct VTUI_EXPORT Result
     /// Of the first error.
     Error error() const { return errors.empty() ? Error::none : errors.front().error; }
     /// All errors, a line each.
-    std::string text() const;
+    VTUI_EXPORT std::string text() const;
 };
 
 } // namespace VT

@@ -3,23 +3,24 @@
 #include "pool/Kind.h"
 #include "pool/Names.h"
 
-#include <string>
+#include <mutex>
 
 namespace VT {
 
 namespace {
 
+/// Whatever a component computes outside 16 bits wraps as it would there.
 std::int16_t scaled(std::int16_t position, std::uint16_t to, std::uint16_t from)
 {
     return static_cast<std::int16_t>(std::int64_t{position} * to / from);
 }
 
+} // namespace
+
 std::string in_pixels(std::uint16_t width, std::uint16_t height)
 {
     return std::to_string(width) + " x " + std::to_string(height);
 }
-
-} // namespace
 
 void scale(const Object_table& objects, std::size_t first, Scale by, std::vector<Problem>& problems)
 {
@@ -45,16 +46,30 @@ void scale(const Object_table& objects, std::size_t first, Scale by, std::vector
         VT_obj* const object = objects[place];
         if (!object)
             continue;
-        object->lock();
+        const std::lock_guard hold(*object);
         object->__set_scale(by.to_width, by.to_height, by.from_width, by.from_height);
-        object->unlock();
-        // The component writes its placements out again when it moves one of them.
-        if (Comp::Child_placements* const children = placements_of(kinds.of(*object), *object))
+        // The component writes its placements and points out again when it moves one of them.
+        const Kind& kind = kinds.of(*object);
+        if (Comp::Child_placements* const children = placements_of(kind, *object))
             for (std::size_t i = 0; i < children->size(); ++i) {
                 Comp::Child_placement& child = children->placement(i);
                 child.x = scaled(child.x, by.to_width, by.from_width);
                 child.y = scaled(child.y, by.to_height, by.from_height);
             }
+        if (Comp::Vertices* const vertices = vertices_of(kind, *object))
+            for (std::size_t i = 0; i < vertices->size(); ++i) {
+                auto& [x, y] = vertices->point(i);
+                x = scaled(x, by.to_width, by.from_width);
+                y = scaled(y, by.to_height, by.from_height);
+            }
+    }
+}
+
+void scale(Attribute_object_placement* children, std::size_t count, Scale by)
+{
+    for (std::size_t i = 0; i < count; ++i) {
+        children[i].x = scaled(children[i].x, by.to_width, by.from_width);
+        children[i].y = scaled(children[i].y, by.to_height, by.from_height);
     }
 }
 

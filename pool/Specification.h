@@ -25,6 +25,9 @@ class Object_specification final : public Client::Object_specification_interface
         values[attribute] = Entry{std::move(value), false};
     }
 
+    void remove(const std::string& attribute) { values.erase(attribute); }
+    bool is_empty() const { return values.empty(); }
+
     /// The attributes that nobody asked for.
     std::vector<std::string> never_asked() const;
 
@@ -45,6 +48,16 @@ class Specification
     void set(const std::string& object, const std::string& attribute, Client::Specified_value value)
     {
         objects[object].values.set(attribute, std::move(value));
+    }
+
+    void remove(const std::string& object, const std::string& attribute)
+    {
+        const auto entry = objects.find(object);
+        if (entry == objects.end())
+            return;
+        entry->second.values.remove(attribute);
+        if (entry->second.values.is_empty())
+            objects.erase(entry);
     }
 
     /// What is specified for `object`; nothing for an object without a name.

@@ -123,6 +123,8 @@ Terminal_message decode(const std::uint8_t* message, std::size_t size)
         return VT_information{fields.u8(), fields.u8(), fields.u8(), fields.u16(), fields.u16()};
     case Iso::Function::terminal_status:
         return Terminal_status{fields.u8(), fields.u16(), fields.u16(), fields.u8(), fields.u8()};
+    case Iso::Function::unsupported_function:
+        return Unsupported_function_response{static_cast<Iso::Function>(fields.u8())};
     default:
         return command_response(message);
     }

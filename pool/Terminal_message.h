@@ -68,11 +68,17 @@ struct Command_response
     std::uint8_t error;       ///< the standard's bits; 0: carried out
 };
 
+/// The terminal does not know a function that it was sent.
+struct Unsupported_function_response
+{
+    Iso::Function function;
+};
+
 /// A message of the terminal; empty when its function is not known here or it is too short.
 using Terminal_message =
     std::variant<std::monostate, Soft_key_activation_event, Button_activation_event, VT_change_numeric_value_event,
                  VT_change_string_value_event, Select_input_object_event, Esc_event, Terminal_status, VT_information,
-                 Memory_response, End_of_object_pool_response, Command_response>;
+                 Memory_response, End_of_object_pool_response, Command_response, Unsupported_function_response>;
 
 VTUI_EXPORT Terminal_message decode(const std::uint8_t* message, std::size_t size);
 

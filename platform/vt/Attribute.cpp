@@ -48,7 +48,11 @@ void print_attribute(std::ostream& out, unsigned indent, Attribute_type type, co
 {
     for (unsigned level = 0; level < indent; ++level)
         out << "  ";
-    out << "Type: " << static_cast<unsigned>(type) << "\tName: " << name << std::endl;
+    out << "Type: " << static_cast<unsigned>(type) << "\tName: ";
+    if (name)
+        out << name << std::endl;
+    else
+        out.setstate(std::ios_base::badbit);
 }
 
 template <typename T>

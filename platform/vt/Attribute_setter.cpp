@@ -92,10 +92,12 @@ void Attribute_setter::attribute(const Attribute_info& info, Attribute_string& s
     const std::string* const text = std::get_if<std::string>(value);
     if (!text)
         return refused(info, "takes a text");
-    if (text->size() > string.item_count)
+    if (text->size() > (string.buffer ? string.item_count : 0))
         return refused(info, "is too short for that text");
-    std::fill_n(string.buffer, string.item_count, '\0');
-    text->copy(string.buffer, string.item_count);
+    if (string.buffer) {
+        std::fill_n(string.buffer, string.item_count, '\0');
+        text->copy(string.buffer, string.item_count);
+    }
     string.set_changed();
     done(info, 0);
 }

@@ -2,6 +2,9 @@
 
 #include "vt/Background_colour.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace VT {
 
 void Parent_obj::set_background_colour(std::uint8_t colour)
@@ -22,10 +25,12 @@ void Parent_obj::add_child(VT_obj& child, std::int16_t x, std::int16_t y)
 
 void Parent_obj::write_children()
 {
-    for (std::size_t i = 0; i < children.size(); ++i)
-        placements[i].object_id = children[i]->get_id();
+    const std::size_t most = std::min<std::size_t>(children.size(), std::numeric_limits<std::uint8_t>::max());
+    std::size_t listed = 0;
+    for (; listed < most && children[listed]->get_pool() == get_pool(); ++listed)
+        placements[listed].object_id = children[listed]->get_id();
     objects = placements.data();
-    num_objects = static_cast<std::uint8_t>(placements.size());
+    num_objects = static_cast<std::uint8_t>(listed);
 }
 
 void Mask_obj::set_soft_key_mask(Soft_key_mask_obj* keys)
@@ -33,7 +38,7 @@ void Mask_obj::set_soft_key_mask(Soft_key_mask_obj* keys)
     soft_keys = keys;
     if (get_id() == NULL_ID)
         return;
-    soft_key_mask = keys ? keys->get_id() : NULL_ID;
+    soft_key_mask = id_of(keys);
     if (!is_live())
         return;
     const bool alarm = get_type() == Iso::Object_type::alarm_mask;

@@ -12,6 +12,9 @@ namespace VT {
 class VTUI_EXPORT Parent_obj : public VT_obj, public Object_list, public Macro_list
 {
   public:
+    Parent_obj(const Parent_obj&) = delete;
+    Parent_obj& operator=(const Parent_obj&) = delete;
+
     Attribute_colour background_colour;
 
     /// Sends Change Background Colour if the pool is live.
@@ -20,7 +23,7 @@ class VTUI_EXPORT Parent_obj : public VT_obj, public Object_list, public Macro_l
     /// The children in drawing order.
     const std::vector<VT_obj*>& get_children() const { return children; }
 
-    /// For the pool: gives every entry of the object list the id of its child.
+    /// For the pool: writes the object list, as far as the pool has the children: those added since then wait.
     void write_children();
 
   protected:

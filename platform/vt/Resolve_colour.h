@@ -31,6 +31,9 @@ class VTUI_EXPORT Node
 
   protected:
     Node() = default;
+    /// A copy waits in no queue.
+    Node(const Node&) {}
+    Node& operator=(const Node&) = delete;
 
     template <class N>
     friend class List;
@@ -142,12 +145,15 @@ class VTUI_EXPORT Attribute_colour final : public Resolve_colour::Attribute_node
 {
   public:
     Attribute_colour(VT_obj* owner, std::uint8_t initial) : Attribute_node(owner), value(initial) {}
+    Attribute_colour(const Attribute_colour&) = default;
     ~Attribute_colour() override;
 
     operator std::uint8_t() const { return value; }
 
     /// A number settles the colour: a symbolic one that still waits is dropped.
     Attribute_colour& operator=(std::uint8_t palette_index);
+    /// Takes over the index, not what the other waits for.
+    Attribute_colour& operator=(const Attribute_colour& other) { return *this = other.value; }
 
     /// Queues the attribute until the pool resolves `symbol`, which must live until then. The index stays as it is
     /// meanwhile.

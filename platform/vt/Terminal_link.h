@@ -20,8 +20,8 @@ class VTUI_EXPORT Terminal_link
     /// Hands over one message. False when the link refuses it or is down; nothing of it has then reached the terminal.
     virtual bool send(const std::uint8_t* message, std::size_t size) = 0;
 
-    /// Fetches the terminal's next message into `message`, waiting for it no longer than `timeout`. False when none
-    /// came.
+    /// Fetches the terminal's next message into `message`. Waits until there is one or `timeout` has passed; false when
+    /// none came. A link that knows that none can come any more may say so at once.
     virtual bool receive(std::vector<std::uint8_t>& message, std::chrono::milliseconds timeout) = 0;
 };
 

@@ -3,6 +3,8 @@
 #include "vt/Attribute_setter.h"
 #include "vt/Command.h"
 
+#include <mutex>
+
 namespace VT {
 
 namespace {
@@ -61,6 +63,15 @@ class Scaler final : public Attribute_visitor
         }
     }
 
+    /// Only checked: whoever has points scales them.
+    void points(Attribute_point* list, std::size_t count) override
+    {
+        for (std::size_t i = 0; i < count && only_check; ++i) {
+            scale(list[i].x, to_x, from_x);
+            scale(list[i].y, to_y, from_y);
+        }
+    }
+
   private:
     template <typename T>
     void scale(Attribute<T>& length, std::uint16_t to, std::uint16_t from)
@@ -96,6 +107,15 @@ void VT_obj::upload(bool always)
     get_pool()->upload(*this);
 }
 
+Iso::Object_id VT_obj::id_of(const VT_obj* target) const
+{
+    if (!target)
+        return NULL_ID;
+    if (get_pool() && target->get_pool() != get_pool())
+        report("a reference", "leads to an object that is not in the pool");
+    return target->get_id();
+}
+
 bool VT_obj::change_attribute(const char* name, double value)
 {
     Attribute_changer changer(*this, name, value);
@@ -117,10 +137,8 @@ std::uint16_t VT_obj::_get_height() const { return 0; }
 
 bool VT_obj::check_scale_area(std::uint16_t a, std::uint16_t b, std::uint16_t c, std::uint16_t d)
 {
-    lock();
-    const bool fits = __check_scale_area(a, b, c, d);
-    unlock();
-    return fits;
+    const std::lock_guard hold(*this);
+    return __check_scale_area(a, b, c, d);
 }
 
 bool VT_obj::__check_scale_area(std::uint16_t a, std::uint16_t b, std::uint16_t c, std::uint16_t d)

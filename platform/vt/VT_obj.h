@@ -46,6 +46,10 @@ class VTUI_EXPORT VT_obj : public Iso::Iso_object_base
     /// Shows every attribute to `visitor` in the order of the object's record.
     virtual void visit(Attribute_visitor& visitor) = 0;
 
+    /// What a reference of this object to `target` says: its id, or the null id for null. A target that this object's
+    /// pool does not have is reported to the pool: the terminal will not show it.
+    Iso::Object_id id_of(const VT_obj* target) const;
+
   protected:
     using Iso_object_base::Iso_object_base;
     VT_obj(const VT_obj&) = default;

@@ -3,6 +3,7 @@
 #include "vt/Command.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace VT {
 
@@ -18,11 +19,17 @@ void Working_set_obj::set_active_mask(Mask_obj& mask)
     add_mask(mask);
     if (get_id() == NULL_ID)
         return;
-    active_mask = mask.get_id();
+    active_mask = id_of(&mask);
     if (!is_live())
         return;
     Command(Iso::Function::change_active_mask).u16(get_id()).u16(active_mask).send_to(*get_pool());
     active_mask.set_told();
+}
+
+void Working_set_obj::add_language(const char (&code)[3])
+{
+    if (languages.size() / 2 < std::numeric_limits<std::uint8_t>::max())
+        languages.append(code, 2);
 }
 
 void Working_set_obj::visit(Attribute_visitor& visitor)

@@ -30,8 +30,8 @@ class VTUI_EXPORT Working_set_obj final : public Parent_obj
     void set_active_mask(Mask_obj& mask);
     Mask_obj* get_active_mask() const { return active; }
 
-    /// A language of the working set: two ASCII letters.
-    void add_language(const char* two_letters) { languages.append(two_letters, 2); }
+    /// A language of the working set: two ASCII letters, as "en". 255 at most; more are ignored.
+    void add_language(const char (&code)[3]);
 
     void visit(Attribute_visitor& visitor) override;
 

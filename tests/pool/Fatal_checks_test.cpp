@@ -16,7 +16,7 @@ void prepare(Objects&... objects)
 {
     Screen screen;
     (screen.pool.add(objects), ...);
-    screen.pool.prepare();
+    static_cast<void>(screen.pool.prepare());
 }
 
 constexpr int failure = 255;

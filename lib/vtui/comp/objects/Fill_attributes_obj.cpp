@@ -28,8 +28,11 @@ bool Fill_attributes_obj::__set_by_spec(const VT::Client::Object_specification_i
     if (!object || object->get_type() != Iso::Object_type::picture_graphic)
         Fatal::configuration(subject + " has a fill pattern which is not a picture");
 
-    unlock(); // nobody waits for another object while holding this one
-    const std::uint16_t width = static_cast<VT::Picture_graphic_obj*>(object)->actual_width;
+    auto& picture = static_cast<VT::Picture_graphic_obj&>(*object);
+    unlock(); // who holds one object does not wait for another
+    picture.lock();
+    const std::uint16_t width = picture.actual_width;
+    picture.unlock();
     lock();
     if (width % 8 != 0)
         Fatal::configuration("The width of the fill pattern for " + subject + " is " + std::to_string(width) +

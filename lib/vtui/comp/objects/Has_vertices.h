@@ -20,6 +20,9 @@ class VTUI_EXPORT Vertices
     /// Writes every point into its attribute, in order.
     virtual void deref() = 0;
     virtual ~Vertices() = default;
+
+    /// Point `i` before it is written out, for the pool: a scaled polygon keeps its shape when it is written out again.
+    virtual std::pair<short, short>& point(std::size_t i) = 0;
 };
 
 template <template <typename> class Array_type>
@@ -32,6 +35,7 @@ class Vertex_array : public Vertices
     VT::Attribute_point* get() override { return &attributes[0]; }
     std::size_t size() const override { return attributes.size(); }
     void deref() override;
+    std::pair<short, short>& point(std::size_t i) override { return points[i]; }
 };
 
 template <template <typename> class Array_type>

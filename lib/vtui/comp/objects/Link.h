@@ -5,9 +5,6 @@
 
 namespace VT::Comp {
 
-/// The id that a link stands for.
-inline Iso::Object_id id_of(const VT::VT_obj* object) { return object ? object->get_id() : VT::VT_obj::NULL_ID; }
-
 /// The one rule for links between objects: the pointer is stored; `write` hands the id to the VT object only once the
 /// owner has an id itself. Until then the pool, which follows the pointer, does that.
 template <class Owner, class Target, class Base>
@@ -15,7 +12,7 @@ void set_link(Owner& owner, Target*& link, Target* target, void (Base::*write)(I
 {
     link = target;
     if (owner.get_id() != VT::VT_obj::NULL_ID)
-        (owner.*write)(id_of(target));
+        (owner.*write)(owner.id_of(target));
 }
 
 } // namespace VT::Comp

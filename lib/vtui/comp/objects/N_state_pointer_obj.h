@@ -11,6 +11,8 @@ namespace VT::Comp {
 template <std::size_t N>
 class VTUI_EXPORT N_state_pointer_obj : public Object_pointer_obj
 {
+    static_assert(N == 2, "the pool takes in the objects of two states");
+
   public:
     /// An object per state, null to show nothing in it. The first state is the current one.
     explicit N_state_pointer_obj(const std::array<VT::VT_obj*, N>& objects) : states(objects) { set_state(0); }

@@ -4,7 +4,7 @@ namespace VT::Comp {
 
 namespace {
 
-/// Signed division, as for every other coordinate; the product of two 16-bit numbers needs the room.
+/// The product of two 16-bit numbers needs the room.
 std::uint16_t scaled(std::uint16_t coordinate, std::uint16_t to, std::uint16_t from)
 {
     return static_cast<std::uint16_t>(std::int64_t{coordinate} * to / from);
