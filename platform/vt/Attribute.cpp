@@ -76,11 +76,29 @@ bool Attribute_object_id_spec::null_check(const Iso::Iso_object_base& owner, con
     return false;
 }
 
+void Attribute_object_id_spec::print(std::ostream& out, unsigned indent, const char* name) const
+{
+    print_attribute(out, indent, Attribute_type::object_id, name);
+}
+
+void Attribute_object_placement::print(std::ostream& out, unsigned indent) const
+{
+    print_attribute(out, indent, Attribute_type::object_placement, "object_placement");
+    object_id.print(out, indent + 1, "object_id");
+    x.print(out, indent + 1, "x");
+    y.print(out, indent + 1, "y");
+}
+
 void Attribute_point::print(std::ostream& out, unsigned indent) const
 {
     print_attribute(out, indent, Attribute_type::point, "point");
     x.print(out, indent + 1, "point_x");
     y.print(out, indent + 1, "point_y");
+}
+
+void Attribute_string::print(std::ostream& out, unsigned indent, const char* name) const
+{
+    print_attribute(out, indent, Attribute_type::string, name);
 }
 
 std::uint16_t Attribute_string::num_chars() const

@@ -24,7 +24,8 @@ enum class Attribute_type : std::uint8_t {
     object_id,
     colour,
     string,
-    point
+    point,
+    object_placement
 };
 
 /// Writes the line that introduces an attribute in a dump: two spaces a level, the type's number and the name. A null
@@ -78,18 +79,21 @@ class VTUI_EXPORT Attribute_object_id_spec : public Attribute_uint16
     constexpr Attribute_object_id_spec(Iso::Object_id id = Iso::null_id) : Attribute_uint16(id) {}
     using Attribute_uint16::operator=;
 
+    void print(std::ostream& out, unsigned indent, const char* name) const;
+
     /// True when the reference is set; a null one is reported to `owner`'s pool under the attribute's name.
     bool null_check(const Iso::Iso_object_base& owner, const char* name) const;
 };
 
 /// One entry of a parent's object list: which child, and where its top left corner lies in the parent (pixels).
-struct Attribute_object_placement
+struct VTUI_EXPORT Attribute_object_placement
 {
     Attribute_uint16 object_id{Iso::null_id};
     Attribute_int16 x;
     Attribute_int16 y;
 
     bool changed() const { return object_id.changed() || x.changed() || y.changed(); }
+    void print(std::ostream& out, unsigned indent) const;
 };
 
 /// One vertex of a polygon, in pixels from its top left corner.
@@ -114,6 +118,7 @@ class VTUI_EXPORT Attribute_string
 
     bool changed() const { return is_changed; }
     void set_changed() { is_changed = true; }
+    void print(std::ostream& out, unsigned indent, const char* name) const;
     void set_told() { is_changed = false; }
 
     char* buffer;             ///< may be null: no characters

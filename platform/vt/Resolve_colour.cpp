@@ -1,5 +1,7 @@
 #include "vt/Resolve_colour.h"
 
+#include "vt/Attribute.h"
+
 namespace VT {
 
 namespace Resolve_colour {
@@ -33,6 +35,11 @@ void Attribute_colour::set_symbol(const char* symbol)
 {
     name = symbol;
     Unresolved::unresolved.add(*this);
+}
+
+void Attribute_colour::print(std::ostream& out, unsigned indent, const char* attribute) const
+{
+    print_attribute(out, indent, Attribute_type::colour, attribute);
 }
 
 void Attribute_colour::set_colour(std::uint8_t palette_index)

@@ -4,6 +4,7 @@
 #include "iso11783/Export.h"
 
 #include <cstdint>
+#include <iosfwd>
 
 namespace VT {
 
@@ -163,6 +164,7 @@ class VTUI_EXPORT Attribute_colour final : public Resolve_colour::Attribute_node
 
     bool changed() const { return is_changed; }
     void set_told() { is_changed = false; }
+    void print(std::ostream& out, unsigned indent, const char* attribute) const;
 
   private:
     std::uint8_t value;

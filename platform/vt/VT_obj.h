@@ -9,10 +9,9 @@
 
 namespace VT {
 
-/// An object of an ISO 11783-6 pool. Values are set before the pool exists and reach the terminal with it; once the
+/// An object of an ISO 11783-6 pool. Values are set before the pool exists and reach the terminal with it. Once the
 /// pool is live a value reaches the terminal by a change command (the operations that say so) or with the object's
-/// whole record
-/// (`upload`). All sizes and positions are pixels.
+/// whole record (upload()). All sizes and positions are pixels.
 class VTUI_EXPORT VT_obj : public Iso::Iso_object_base
 {
   public:

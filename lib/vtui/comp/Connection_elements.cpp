@@ -4,9 +4,7 @@ namespace VT::Comp {
 
 namespace {
 
-constexpr std::uint16_t solid = 0xFFFF;      // line art
-constexpr std::uint8_t with_fill_colour = 2; // fill type
-constexpr std::uint8_t all_edges = 15;       // line suppression
+constexpr std::uint8_t all_edges = 15; // line suppression
 constexpr std::uint8_t top_and_left = 1 | 8;
 constexpr std::uint8_t right_and_bottom = 2 | 4;
 
@@ -23,15 +21,6 @@ constexpr Font_codes font_codes[] = {{0, 0}, {0, 2}, {2, 3}, {3, 5}, {5, 6}, {0,
 } // namespace
 
 Connection_elements::Connection_elements()
-    : line_none(0, 0, 0), line_black(0, 1, solid), line_111(111, 1, solid), line_white(1, 1, solid),
-      line_grey_2(8, 2, solid),                                               //
-      fill_red(with_fill_colour, 12), fill_green(with_fill_colour, 2),        //
-      fill_white(with_fill_colour, 1), fill_195(with_fill_colour, 195),       //
-      fill_81(with_fill_colour, 81), fill_39(with_fill_colour, 39),           //
-      fill_188(with_fill_colour, 188), fill_17(with_fill_colour, 17),         //
-      fill_17_patterned(with_fill_colour, 17), fill_59(with_fill_colour, 59), //
-      line_white_b(1, 1, solid), line_black_b(0, 1, solid), line_black_c(0, 1, solid), line_111_b(111, 1, solid),
-      null_pointer_ptr(&null_pointer)
 {
     const auto draw = [](Rectangle_obj& rectangle, Fill_attributes_obj* fill, Line_attributes_obj* line,
                          std::uint8_t suppressed) {

@@ -23,8 +23,12 @@ class VTUI_EXPORT Connection_elements
     Connection_elements();
 
     /// Fits the set to a data mask `size` pixels wide and high: backgrounds as large as the mask, lines one pixel wide,
-    /// large fonts from 480 pixels on. May be called again when the mask changes.
+    /// large fonts from 480 pixels on. May be called again when the mask changes; it sends nothing, so a live pool is
+    /// loaded again.
     void set_sizes(unsigned short size);
+
+    static constexpr std::uint16_t solid = 0xFFFF;      ///< line art
+    static constexpr std::uint8_t with_fill_colour = 2; ///< fill type
 
     // Two ladders of four sizes above the smallest one. Colour and style are the application's to set.
     Font_attributes_obj font_0;
@@ -37,46 +41,47 @@ class VTUI_EXPORT Connection_elements
     Font_attributes_obj font_7;
     Font_attributes_obj font_8;
 
-    Line_attributes_obj line_none; ///< draws nothing
-    Line_attributes_obj line_black;
-    Line_attributes_obj line_111;
-    Line_attributes_obj line_white;
-    Line_attributes_obj line_grey_2; ///< two pixels wide
+    // Colour, width and art.
+    Line_attributes_obj line_none{0, 0, 0}; ///< draws nothing
+    Line_attributes_obj line_black{0, 1, solid};
+    Line_attributes_obj line_111{111, 1, solid};
+    Line_attributes_obj line_white{1, 1, solid};
+    Line_attributes_obj line_grey_2{8, 2, solid}; ///< two pixels wide
 
     // Backgrounds of one colour, without a border. rect_81, rect_39 and rect_17 have no size until a component gives
     // one.
-    Fill_attributes_obj fill_red;
+    Fill_attributes_obj fill_red{with_fill_colour, 12};
     Rectangle_obj rect_red;
-    Fill_attributes_obj fill_green;
+    Fill_attributes_obj fill_green{with_fill_colour, 2};
     Rectangle_obj rect_green;
-    Fill_attributes_obj fill_white;
+    Fill_attributes_obj fill_white{with_fill_colour, 1};
     Rectangle_obj rect_white;
-    Fill_attributes_obj fill_195;
+    Fill_attributes_obj fill_195{with_fill_colour, 195};
     Rectangle_obj rect_195;
-    Fill_attributes_obj fill_81;
+    Fill_attributes_obj fill_81{with_fill_colour, 81};
     Rectangle_obj rect_81;
-    Fill_attributes_obj fill_39;
+    Fill_attributes_obj fill_39{with_fill_colour, 39};
     Rectangle_obj rect_39;
-    Fill_attributes_obj fill_188;
+    Fill_attributes_obj fill_188{with_fill_colour, 188};
     Rectangle_obj rect_188;
-    Fill_attributes_obj fill_17;
+    Fill_attributes_obj fill_17{with_fill_colour, 17};
     Rectangle_obj rect_17;
     Rectangle_obj rect_17_patterned;
-    Fill_attributes_obj fill_17_patterned; ///< plain: the pattern is none
+    Fill_attributes_obj fill_17_patterned{with_fill_colour, 17}; ///< plain: the pattern is none
 
     // The two halves of a raised bevel: the dark one is the face with its right and bottom edge, the light one only the
     // top and left edge.
     Rectangle_obj rect_bevel_dark;
     Rectangle_obj rect_bevel_light;
-    Fill_attributes_obj fill_59;
-    Line_attributes_obj line_white_b;
-    Line_attributes_obj line_black_b;
+    Fill_attributes_obj fill_59{with_fill_colour, 59};
+    Line_attributes_obj line_white_b{1, 1, solid};
+    Line_attributes_obj line_black_b{0, 1, solid};
 
-    Line_attributes_obj line_black_c;
-    Line_attributes_obj line_111_b;
+    Line_attributes_obj line_black_c{0, 1, solid};
+    Line_attributes_obj line_111_b{111, 1, solid};
 
     Object_pointer_obj null_pointer; ///< shows nothing
-    Object_pointer_obj* null_pointer_ptr;
+    Object_pointer_obj* null_pointer_ptr{&null_pointer};
 
     std::array<String_variable_obj<4>, 256> number_strings; ///< "0" to "255"
     String_variable_obj<1> empty_string;
@@ -84,7 +89,7 @@ class VTUI_EXPORT Connection_elements
 
     Disable_cover_widget_impl<5> cover;
 
-    // The levels of the cover by their names.
+    // The levels of the cover by their names: no objects of their own.
     Container_obj& cover_512{cover.container};
     Container_obj& cover_256{cover.inner.container};
     Container_obj& cover_128{cover.inner.inner.container};

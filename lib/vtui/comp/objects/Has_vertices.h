@@ -41,6 +41,7 @@ class Vertex_array : public Vertices
 template <template <typename> class Array_type>
 void Vertex_array<Array_type>::deref()
 {
+    // A component's coordinates are signed, the record's are not: a negative one wraps.
     for (std::size_t i = 0; i < points.size(); ++i) {
         attributes[i].x = static_cast<std::uint16_t>(points[i].first);
         attributes[i].y = static_cast<std::uint16_t>(points[i].second);

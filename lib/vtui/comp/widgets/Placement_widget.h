@@ -26,7 +26,8 @@ class VTUI_EXPORT Placement_widget
     void set_content(VT::VT_obj* object);
     /// Takes effect with the next set_size().
     void set_justification(Justification new_justification);
-    /// Makes the container `box` pixels large and aligns the content in it. Ends the process if there is no content.
+    /// Makes the container `box` pixels large and aligns the content in it. Sends nothing: in a live pool follow with
+    /// root().upload(true). Ends the process if there is no content.
     void set_size(Dimension box);
 
     Container_obj& root() { return container; }
