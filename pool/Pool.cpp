@@ -116,23 +116,25 @@ void Pool::scale_new(const Preparation& run, Result& result)
 {
     if (designed_size == 0 || !terminal_information)
         return;
-    const Scale by{terminal_information->mask_width, terminal_information->mask_height, designed_size, designed_size};
-    if (scaled > 0 && (by.to_width != scaled_width || by.to_height != scaled_height)) {
+    const std::uint16_t width = terminal_information->mask_width;
+    const std::uint16_t height = terminal_information->mask_height;
+    const bool first_time = scaled == 0;
+    if (first_time) {
+        scaled_width = width;
+        scaled_height = height;
+    } else if (width != scaled_width || height != scaled_height) {
         result.warnings.push_back({Error::other_mask_size, Iso::null_id, "",
                                    "The pool was scaled to a data mask of " + in_pixels(scaled_width, scaled_height) +
-                                       " pixels and stays so; the terminal's has " +
-                                       in_pixels(by.to_width, by.to_height)});
-        return;
+                                       " pixels and stays so; the terminal's has " + in_pixels(width, height)});
     }
+    const Scale by{scaled_width, scaled_height, designed_size, designed_size};
     scale(objects, scaled, by, result.errors);
     if (!result.errors.empty())
         return;
-    if (scaled > 0)
+    if (!first_time)
         for (const Preparation::Late_children& children : run.late_children())
             scale(children.first, children.count, by);
     scaled = objects.size();
-    scaled_width = by.to_width;
-    scaled_height = by.to_height;
 }
 
 void Pool::write_records(Record_writer& writer)

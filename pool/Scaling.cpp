@@ -9,10 +9,17 @@ namespace VT {
 
 namespace {
 
-/// Whatever a component computes outside 16 bits wraps as it would there.
-std::int16_t scaled(std::int16_t position, std::uint16_t to, std::uint16_t from)
+/// What leaves 16 bits wraps: only what stands in attributes has been checked.
+template <typename T>
+T scaled(T position, std::uint16_t to, std::uint16_t from)
 {
-    return static_cast<std::int16_t>(std::int64_t{position} * to / from);
+    return static_cast<T>(std::int64_t{position} * to / from);
+}
+
+/// A component's points are signed, but stand in the record unsigned.
+short scaled_point(short coordinate, std::uint16_t to, std::uint16_t from)
+{
+    return static_cast<short>(scaled(static_cast<std::uint16_t>(coordinate), to, from));
 }
 
 } // namespace
@@ -59,8 +66,8 @@ void scale(const Object_table& objects, std::size_t first, Scale by, std::vector
         if (Comp::Vertices* const vertices = vertices_of(kind, *object))
             for (std::size_t i = 0; i < vertices->size(); ++i) {
                 auto& [x, y] = vertices->point(i);
-                x = scaled(x, by.to_width, by.from_width);
-                y = scaled(y, by.to_height, by.from_height);
+                x = scaled_point(x, by.to_width, by.from_width);
+                y = scaled_point(y, by.to_height, by.from_height);
             }
     }
 }
@@ -68,8 +75,8 @@ void scale(const Object_table& objects, std::size_t first, Scale by, std::vector
 void scale(Attribute_object_placement* children, std::size_t count, Scale by)
 {
     for (std::size_t i = 0; i < count; ++i) {
-        children[i].x = scaled(children[i].x, by.to_width, by.from_width);
-        children[i].y = scaled(children[i].y, by.to_height, by.from_height);
+        children[i].x = scaled<std::int16_t>(children[i].x, by.to_width, by.from_width);
+        children[i].y = scaled<std::int16_t>(children[i].y, by.to_height, by.from_height);
     }
 }
 

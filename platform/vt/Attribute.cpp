@@ -10,37 +10,17 @@ namespace VT {
 namespace {
 
 template <typename T>
-constexpr Attribute_type type_of();
+constexpr Attribute_type type_of = Attribute_type::real;
 template <>
-constexpr Attribute_type type_of<std::uint8_t>()
-{
-    return Attribute_type::uint8;
-}
+constexpr Attribute_type type_of<std::uint8_t> = Attribute_type::uint8;
 template <>
-constexpr Attribute_type type_of<std::uint16_t>()
-{
-    return Attribute_type::uint16;
-}
+constexpr Attribute_type type_of<std::uint16_t> = Attribute_type::uint16;
 template <>
-constexpr Attribute_type type_of<std::int16_t>()
-{
-    return Attribute_type::int16;
-}
+constexpr Attribute_type type_of<std::int16_t> = Attribute_type::int16;
 template <>
-constexpr Attribute_type type_of<std::uint32_t>()
-{
-    return Attribute_type::uint32;
-}
+constexpr Attribute_type type_of<std::uint32_t> = Attribute_type::uint32;
 template <>
-constexpr Attribute_type type_of<std::int32_t>()
-{
-    return Attribute_type::int32;
-}
-template <>
-constexpr Attribute_type type_of<float>()
-{
-    return Attribute_type::real;
-}
+constexpr Attribute_type type_of<std::int32_t> = Attribute_type::int32;
 
 } // namespace
 
@@ -58,7 +38,7 @@ void print_attribute(std::ostream& out, unsigned indent, Attribute_type type, co
 template <typename T>
 void Attribute<T>::print(std::ostream& out, unsigned indent, const char* name) const
 {
-    print_attribute(out, indent, type_of<T>(), name);
+    print_attribute(out, indent, type_of<T>, name);
 }
 
 template class Attribute<std::uint8_t>;

@@ -111,7 +111,7 @@ Iso::Object_id VT_obj::id_of(const VT_obj* target) const
 {
     if (!target)
         return NULL_ID;
-    if (get_pool() && target->get_pool() != get_pool())
+    if (is_live() && target->get_pool() != get_pool())
         report("a reference", "leads to an object that is not in the pool");
     return target->get_id();
 }

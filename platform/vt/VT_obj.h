@@ -45,8 +45,8 @@ class VTUI_EXPORT VT_obj : public Iso::Iso_object_base
     /// Shows every attribute to `visitor` in the order of the object's record.
     virtual void visit(Attribute_visitor& visitor) = 0;
 
-    /// What a reference of this object to `target` says: its id, or the null id for null. A target that this object's
-    /// pool does not have is reported to the pool: the terminal will not show it.
+    /// What a reference of this object to `target` says: its id, or the null id for null. In a live pool a target that
+    /// the pool does not have is reported to it: the terminal will not show it before the pool is loaded again.
     Iso::Object_id id_of(const VT_obj* target) const;
 
   protected:

@@ -1,5 +1,5 @@
-#include "tests/Fake_pool.h"
 #include "tests/Allocations.h"
+#include "tests/Fake_pool.h"
 #include "vt/Button_obj.h"
 #include "vt/Mask_obj.h"
 #include "vt/Working_set_obj.h"

@@ -140,10 +140,23 @@ TEST_F(Link, ToAnObjectWithoutAnIdIsTheNullId)
     Rectangle_obj rectangle;
     rectangle.fill_attributes = std::uint16_t{4};
     pool.take(rectangle, owner_id);
+    pool.live = true;
     Fill_attributes_obj without_id(2, 1);
     rectangle.set_fill(&without_id);
     EXPECT_EQ(rectangle.fill, &without_id);
     EXPECT_EQ(rectangle.fill_attributes, VT::VT_obj::NULL_ID);
+    EXPECT_EQ(pool.reported, (std::vector<std::string>{"258 a reference leads to an object that is not in the pool"}));
+}
+
+TEST_F(Link, ToAnObjectOfThePoolOrToNoneIsNotReported)
+{
+    Rectangle_obj rectangle;
+    Fill_attributes_obj without_id(2, 1);
+    rectangle.set_fill(&without_id);
+    pool.take(rectangle, owner_id);
+    rectangle.set_fill(&target_fill);
+    rectangle.set_fill(nullptr);
+    EXPECT_TRUE(pool.reported.empty());
 }
 
 } // namespace

@@ -38,13 +38,6 @@ void copy(const Component& original)
     static_cast<void>(second);
 }
 
-/// Where a base lies in an object, in bytes.
-template <typename Base, typename Object>
-std::ptrdiff_t offset_of(const Object& object)
-{
-    return reinterpret_cast<const char*>(static_cast<const Base*>(&object)) - reinterpret_cast<const char*>(&object);
-}
-
 TEST(Element, IsTheRootOfObjectsAndWidgetsAndHasNothingVirtual)
 {
     EXPECT_TRUE((std::is_base_of_v<Element, Object>));
@@ -59,51 +52,6 @@ TEST(HasMacros, IsOneNullPointer)
 {
     EXPECT_EQ(sizeof(Has_macros), sizeof(void*));
     EXPECT_EQ(Has_macros().macros_ptr, nullptr);
-}
-
-TEST(Wrapper, SharesItsAddressWithItsTag)
-{
-    const Container_obj container;
-    EXPECT_EQ(offset_of<Object>(container), 0);
-    EXPECT_EQ(offset_of<VT::VT_obj>(container), 0);
-    EXPECT_EQ(offset_of<Iso::Iso_object_base>(container), 0);
-}
-
-TEST(Wrapper, HasItsMixinsInTheOrderOfItsBases)
-{
-    const Container_obj container;
-    EXPECT_LT(offset_of<Has_child_placements>(container), offset_of<Has_macros>(container));
-    const Button_obj button;
-    EXPECT_LT(offset_of<Has_macros>(button), offset_of<Has_child_placements>(button));
-    const Key_obj key;
-    EXPECT_LT(offset_of<Has_macros>(key), offset_of<Has_child_placements>(key));
-    const Polygon_obj polygon;
-    EXPECT_LT(offset_of<Has_vertices>(polygon), offset_of<Has_macros>(polygon));
-}
-
-template <typename Wrapper, typename... Bases>
-constexpr bool has_bases = (std::is_convertible_v<Wrapper*, Bases*> && ...);
-
-TEST(Wrapper, HasItsTagItsMixinsAndTheVtClassAsPublicBases)
-{
-    EXPECT_TRUE((has_bases<Container_obj, Object, Has_child_placements, Has_macros, VT::Container_obj>));
-    EXPECT_TRUE((has_bases<Button_obj, Object, Has_macros, Has_child_placements, VT::Button_obj>));
-    EXPECT_TRUE((has_bases<Key_obj, Object, Has_macros, Has_child_placements, VT::Key_obj>));
-    EXPECT_TRUE((has_bases<Output_number_obj, Has_macros, Object, VT::Output_number_obj>));
-    EXPECT_TRUE((has_bases<Input_number_obj, Has_macros, Object, VT::Input_number_obj>));
-    EXPECT_TRUE((has_bases<Output_string_obj, Has_macros, Object, VT::Output_string_obj>));
-    EXPECT_TRUE((has_bases<Rectangle_obj, Object, Has_macros, VT::Rectangle_obj>));
-    EXPECT_TRUE((has_bases<Line_obj, Object, Has_macros, VT::Line_obj>));
-    EXPECT_TRUE((has_bases<Picture_graphic_obj, Object, Has_macros, VT::Picture_graphic_obj>));
-    EXPECT_TRUE((has_bases<Font_attributes_obj, Object, Has_macros, VT::Font_attributes_obj>));
-    EXPECT_TRUE((has_bases<Line_attributes_obj, Object, Has_macros, VT::Line_attributes_obj>));
-    EXPECT_TRUE((has_bases<Fill_attributes_obj, Object, Has_macros, VT::Fill_attributes_obj>));
-    EXPECT_TRUE((has_bases<Polygon_obj, Object, Has_vertices, Has_macros, VT::Polygon_obj>));
-    EXPECT_TRUE((has_bases<Object_pointer_obj, Object, VT::Object_pointer_obj>));
-    EXPECT_TRUE((has_bases<N_state_pointer_obj<2>, Object_pointer_obj>));
-    EXPECT_TRUE((has_bases<String_variable_obj<4>, Object, VT::String_variable_obj>));
-    EXPECT_FALSE((has_bases<Object_pointer_obj, Has_macros>));
-    EXPECT_FALSE((has_bases<String_variable_obj<4>, Has_macros>));
 }
 
 TEST(WrapperDeathTest, CopyingEndsTheProcess)

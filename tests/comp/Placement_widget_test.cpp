@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <type_traits>
+#include <unistd.h>
 
 using VT::Comp::Dimension;
 using VT::Comp::Placement_widget;
@@ -183,16 +185,38 @@ TEST_F(PlacementWidget, HasNothingVirtual) { EXPECT_FALSE(std::is_polymorphic_v<
 
 using PlacementWidgetDeathTest = PlacementWidget;
 
+death::Words no_content()
+{
+    return death::assertion("__null != content.placements[0].ref", "../../../vtui/comp/widgets/Placement_widget", 26,
+                            "void VT::Comp::Placement_widget::set_size(VT::Comp::Dimension)");
+}
+
 TEST_F(PlacementWidgetDeathTest, ALayoutWithoutContentEndsTheProcess)
 {
-    const auto no_content = [] {
-        return death::assertion("__null != content.placements[0].ref", "../../../vtui/comp/widgets/Placement_widget",
-                                26, "void VT::Comp::Placement_widget::set_size(VT::Comp::Dimension)");
-    };
     EXPECT_DEATH(widget.set_size({100, 50}), no_content());
     widget.set_content(&content);
     widget.set_content(nullptr);
     EXPECT_DEATH(widget.set_size({100, 50}), no_content());
+}
+
+Placement_widget* without_content;
+
+/// Ends the aborting process with status 1 if the container has kept its size.
+void judge_container(int)
+{
+    const bool kept = without_content->get_width() == 240 && without_content->get_height() == 240;
+    _exit(kept ? 1 : 2);
+}
+
+TEST_F(PlacementWidgetDeathTest, TheContainerHasKeptItsSizeThen)
+{
+    without_content = &widget;
+    EXPECT_EXIT(
+        {
+            std::signal(SIGABRT, judge_container);
+            widget.set_size({100, 50});
+        },
+        ::testing::ExitedWithCode(1), no_content());
 }
 
 } // namespace

@@ -13,7 +13,7 @@ Attribute_node* asked = nullptr;
 unsigned char answer(Attribute_node& node)
 {
     asked = &node;
-    return static_cast<unsigned char>(0x1FF);
+    return 0xFE;
 }
 
 TEST(ResolveColours, ServesTheColoursOfWrappers)
@@ -26,7 +26,7 @@ TEST(ResolveColours, ServesTheColoursOfWrappers)
     EXPECT_TRUE(Unresolved::resolve_colours(answer));
     ASSERT_EQ(asked, &font.colour);
     EXPECT_EQ(asked->get_object(), &font);
-    EXPECT_EQ(font.colour, 0xFF);
+    EXPECT_EQ(font.colour, 0xFE);
     EXPECT_EQ(font.colour.get_name(), nullptr);
 }
 

@@ -1,5 +1,6 @@
 #include "tests/Death.h"
 #include "tests/Fake_pool.h"
+#include "tests/Lock.h"
 #include "vtui/comp/objects/Container_obj.h"
 #include "vtui/comp/objects/Fill_attributes_obj.h"
 #include "vtui/comp/objects/Key_obj.h"
@@ -11,8 +12,10 @@
 
 #include <atomic>
 #include <chrono>
+#include <iostream>
 #include <string>
 #include <thread>
+#include <unistd.h>
 
 using namespace VT::Comp;
 using std::string_literals::operator""s;
@@ -26,22 +29,6 @@ class Platform_string_variable : public VT::VT_obj
     Platform_string_variable() : VT_obj(NULL_ID, nullptr, static_cast<Iso::Object_type>(245)) {}
     void visit(VT::Attribute_visitor&) override {}
 };
-
-bool is_locked(Iso::Iso_object_base& object)
-{
-    std::atomic<bool> entered{false};
-    std::thread second([&] {
-        object.lock();
-        entered = true;
-        object.unlock();
-    });
-    std::this_thread::sleep_for(std::chrono::milliseconds(30));
-    const bool locked = !entered;
-    if (locked)
-        object.unlock();
-    second.join();
-    return locked;
-}
 
 /// An output string "caption" with a font, in a pool that has things to refer to.
 class OutputStringSpecification : public ::testing::Test
@@ -195,6 +182,28 @@ TEST_F(OutputStringSpecificationDeathTest, AVariableFromTheSpecificationIsChecke
                        "The variable referenced by 'caption' is not a String Variable.");
 }
 
+/// Says at once what its objects report.
+class Loud_pool final : public Fake_pool
+{
+  public:
+    void report(const Iso::Iso_object_base&, const char* attribute, const char* what) override
+    {
+        std::cerr << attribute << ' ' << what << std::endl;
+    }
+};
+
+TEST(OutputStringFontDeathTest, AMissingFontIsReportedBeforeAnythingEndsTheProcess)
+{
+    Loud_pool pool;
+    Output_string_obj string;
+    string.set_name("caption");
+    string.variable_reference = std::uint16_t{1000};
+    pool.take(string, 9);
+    EXPECT_EXIT(Fake_pool::specify(string), ::testing::ExitedWithCode(255),
+                ::testing::Eq("font_attributes is the null id\n"
+                              "FATAL ERROR!  The variable referenced by 'caption' is not a String Variable.\n"));
+}
+
 TEST_F(OutputStringSpecificationDeathTest, WithoutANameSaysSo)
 {
     string.set_name(nullptr);
@@ -280,6 +289,37 @@ TEST_F(FillSpecification, LetsGoOfItsLockWhileItLooksAtThePattern)
     EXPECT_TRUE(entered);
     fill.unlock();
     second.join();
+}
+
+/// Holds the picture until the fill waits for it with its own lock released, makes it 12 wide, lets it go for a while
+/// and makes it 28 wide before the fill gets its own lock back.
+[[noreturn]] void change_the_width_around_the_check(Fill_attributes_obj& fill, Picture_graphic_obj& picture)
+{
+    fill.lock();
+    picture.lock();
+    std::thread second([&fill] { fill.__set_by_spec(Fake_specification()); });
+    if (is_locked(fill, std::chrono::seconds(10)))
+        _exit(1);
+    fill.lock();
+    picture.actual_width = std::uint16_t{12};
+    picture.unlock();
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    picture.lock();
+    picture.actual_width = std::uint16_t{28};
+    picture.unlock();
+    fill.unlock();
+    second.join(); // ends the process
+    _exit(2);
+}
+
+TEST_F(FillSpecificationDeathTest, TheWidthIsThatOfTheLockedPictureWhileTheFillIsUnlocked)
+{
+    set_picture_width(20);
+    fill.type = std::uint8_t{3};
+    fill.set_fill_pattern(picture_id);
+    EXPECT_FATAL_ERROR(change_the_width_around_the_check(fill, picture),
+                       "The width of the fill pattern for Fill_attribute 'hatched' is 12 which is not divisible by "
+                       "8.\n\tThis is necessary for some VTs");
 }
 
 TEST_F(FillSpecificationDeathTest, APatternOfAnotherWidthEndsTheProcess)

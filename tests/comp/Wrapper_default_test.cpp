@@ -1,3 +1,4 @@
+#include "tests/Fake_pool.h"
 #include "tests/Record_text.h"
 #include "vtui/comp/objects/Button_obj.h"
 #include "vtui/comp/objects/Container_obj.h"
@@ -32,6 +33,12 @@ void expect_new(VT::VT_obj& object, Iso::Object_type type, const Lines& values)
     EXPECT_EQ(object.get_type(), type);
     EXPECT_EQ(object.get_extended_type(), 0);
     EXPECT_EQ(Record_text::values_of(object), values);
+
+    Fake_pool pool;
+    pool.take(object, 5);
+    pool.live = true;
+    object.upload(false);
+    EXPECT_TRUE(pool.uploaded.empty());
 }
 
 template <typename Wrapper>

@@ -1,4 +1,5 @@
 #include "tests/Fake_pool.h"
+#include "tests/Lock.h"
 #include "tests/Record_text.h"
 #include "vtui/comp/objects/Container_obj.h"
 #include "vtui/comp/objects/Fill_attributes_obj.h"
@@ -55,6 +56,14 @@ TEST(PictureGraphic, HasTheHeightOfTallPicturesToo)
 {
     const Picture_graphic_obj picture(60000, 60000, 50000, 2, 0, 0, 0, nullptr);
     EXPECT_EQ(picture.get_height(), 50000) << "the product needs 32 bits";
+}
+
+TEST(PictureGraphic, KeepsTheLowSixteenBitsOfAHeightBeyondThem)
+{
+    Picture_graphic_obj picture(65535, 1, 2, 2, 0, 0, 0, nullptr);
+    EXPECT_EQ(picture.get_height(), 65534) << "131070 - 65536";
+    picture.width = std::uint16_t{32768};
+    EXPECT_EQ(picture.get_height(), 0);
 }
 
 TEST(PictureGraphic, WithoutAWidthOfItsOwnHasNoHeight)
@@ -137,6 +146,25 @@ TEST(Polygon, ScalesThroughProductsBeyondSixteenBits)
     EXPECT_EQ(listed.points[0].x, 60000);
 }
 
+TEST(Polygon, ScalesCoordinatesFrom0x8000OnAsPositiveNumbers)
+{
+    Listed_polygon listed;
+    listed.points[0].x = std::uint16_t{60000};
+    listed.points[0].y = std::uint16_t{32768};
+    listed.polygon.__set_scale(1, 1, 2, 4);
+    EXPECT_EQ(listed.points[0].x, 30000);
+    EXPECT_EQ(listed.points[0].y, 8192);
+}
+
+TEST(ScaleCheck, OfAPolygonLooksAtItsPointsToo)
+{
+    Listed_polygon listed;
+    listed.points[1].y = std::uint16_t{1000};
+    EXPECT_TRUE(listed.polygon.check_scale_area(1, 65, 1, 1));
+    EXPECT_FALSE(listed.polygon.check_scale_area(1, 66, 1, 1)) << "66000";
+    EXPECT_EQ(listed.points[1].y, 1000) << "only checked";
+}
+
 TEST(ScaleCheck, OfALineWithoutWidthClearsItsArt)
 {
     Line_attributes_obj none(0, 0, 0xFFFF);
@@ -146,6 +174,34 @@ TEST(ScaleCheck, OfALineWithoutWidthClearsItsArt)
     Line_attributes_obj line(0, 1, 0xFFFF);
     EXPECT_TRUE(line.check_scale_area(2, 2, 1, 1));
     EXPECT_EQ(line.line_art, 0xFFFF);
+}
+
+/// A line with something to scale, which it shows with its lock held.
+class Long_line final : public Line_attributes_obj
+{
+  public:
+    Long_line() : Line_attributes_obj(0, 0, 0xFFFF) {}
+
+    void visit(VT::Attribute_visitor& visitor) override
+    {
+        was_locked = is_locked(*this);
+        visitor.attribute({"length", 0, VT::Axis::x}, length);
+    }
+
+    bool was_locked{false};
+
+  private:
+    VT::Attribute_uint16 length{40000};
+};
+
+TEST(ScaleCheck, OfALineIsStillTheOneOfEveryObject)
+{
+    Long_line line;
+    EXPECT_FALSE(line.check_scale_area(2, 1, 1, 1));
+    EXPECT_TRUE(line.was_locked);
+    EXPECT_EQ(line.line_art, 0);
+    EXPECT_TRUE(line.check_scale_area(1, 1, 1, 1));
+    EXPECT_FALSE(is_locked(line, std::chrono::seconds(10)));
 }
 
 TEST(ScaleCheck, RefusesAnAreaBeyondSixteenBits)

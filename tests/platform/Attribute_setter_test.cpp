@@ -158,6 +158,13 @@ TEST(Specification, RefusesATextLongerThanItsVariable)
     EXPECT_STREQ(text, "ab");
 }
 
+TEST(Specification, RefusesATextForAVariableWithoutABuffer)
+{
+    auto object = objects::string_variable(nullptr, 2);
+    EXPECT_EQ(refusals(object, {{"value", "a"s}}), (std::vector<std::string>{"9 value is too short for that text"}));
+    EXPECT_EQ(refusals(object, {{"value", ""s}}), nothing) << "there is room for no text";
+}
+
 TEST(Specification, SetsATextAndClearsTheRestOfItsVariable)
 {
     char text[] = "abcd!";

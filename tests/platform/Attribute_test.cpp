@@ -1,4 +1,5 @@
 #include "vt/Attribute.h"
+#include "vt/Resolve_colour.h"
 
 #include <gtest/gtest.h>
 
@@ -124,6 +125,9 @@ TEST(AttributeDump, NumbersTheTypes)
     EXPECT_EQ(printed(VT::Attribute_uint32{}, 0), "Type: 3\tName: name\n");
     EXPECT_EQ(printed(VT::Attribute_int32{}, 0), "Type: 4\tName: name\n");
     EXPECT_EQ(printed(VT::Attribute_real{}, 0), "Type: 5\tName: name\n");
+    EXPECT_EQ(printed(VT::Attribute_object_id_spec{}, 0), "Type: 6\tName: name\n") << "an id is no plain number";
+    EXPECT_EQ(printed(VT::Attribute_colour(nullptr, 7), 0), "Type: 7\tName: name\n");
+    EXPECT_EQ(printed(VT::Attribute_string(nullptr, 0), 0), "Type: 8\tName: name\n");
 }
 
 TEST(AttributeDump, FlushesTheStream)
@@ -152,6 +156,16 @@ TEST(AttributeDump, APointShowsItsCoordinatesOneLevelDeeper)
     EXPECT_EQ(out.str(), "  Type: 9\tName: point\n"
                          "    Type: 1\tName: point_x\n"
                          "    Type: 1\tName: point_y\n");
+}
+
+TEST(AttributeDump, APlacementShowsItsChildAndItsPositionOneLevelDeeper)
+{
+    std::ostringstream out;
+    VT::Attribute_object_placement{}.print(out, 1);
+    EXPECT_EQ(out.str(), "  Type: 10\tName: object_placement\n"
+                         "    Type: 1\tName: object_id\n"
+                         "    Type: 2\tName: x\n"
+                         "    Type: 2\tName: y\n");
 }
 
 TEST(AttributeObjectId, IsNullUntilItIsSet)

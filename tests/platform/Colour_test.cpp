@@ -7,6 +7,7 @@
 #include <cstring>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 using VT::Attribute_colour;
@@ -14,6 +15,10 @@ using VT::Resolve_colour::Attribute_node;
 using Unresolved = VT::Resolve_colour::List<Attribute_node>;
 
 namespace {
+
+// Whatever is asked answers a byte, and the setter takes one: there are no other bits to cut off.
+static_assert(std::is_same_v<decltype(&Unresolved::resolve_colours), bool (*)(unsigned char (*)(Attribute_node&))>);
+static_assert(std::is_same_v<decltype(&Attribute_node::set_colour), void (Attribute_node::*)(std::uint8_t)>);
 
 std::vector<std::string> asked;
 Attribute_colour* queued_by_callback = nullptr;
@@ -34,9 +39,31 @@ unsigned char queue_another(Attribute_node& node)
     return number_the_colours(node);
 }
 
-unsigned char too_large(Attribute_node&) { return static_cast<unsigned char>(0x1FF); }
-
 unsigned char grey(Attribute_node&) { return 8; }
+
+/// A node that writes down how it stands when it is asked for and when it is set.
+class Witness final : public Attribute_node
+{
+  public:
+    Witness(VT::VT_obj* owner, const char* symbol) : Attribute_node(owner) { name = symbol; }
+
+    void set_colour(std::uint8_t palette_index) override { note("set to " + std::to_string(palette_index)); }
+
+    void note(const std::string& what)
+    {
+        seen.push_back(what + (is_queued() ? ", queued" : ", not queued") + ", " +
+                       std::to_string(Unresolved::unresolved.size()) + " wait, " +
+                       (get_name() ? get_name() : "no name"));
+    }
+
+    std::vector<std::string> seen;
+};
+
+unsigned char ask_witness(Attribute_node& node)
+{
+    static_cast<Witness&>(node).note("asked");
+    return 0xFE;
+}
 
 /// A colour of an object, and the process's queue, which the tests find empty and leave empty.
 class Colour : public ::testing::Test
@@ -141,12 +168,50 @@ TEST_F(Colour, AnEmptyQueueIsResolvedWithoutAQuestion)
     EXPECT_TRUE(asked.empty());
 }
 
-TEST_F(Colour, OfTheAnswerTheLowEightBitsCount)
+TEST_F(Colour, IsOutOfTheQueueWhenItIsAskedForAndKeepsItsNameUntilItIsSet)
 {
+    Witness first(&owner, "first");
+    Witness last(&owner, "last");
+    Unresolved::unresolved.add(first);
+    Unresolved::unresolved.add(last);
+    EXPECT_TRUE(Unresolved::resolve_colours(ask_witness));
+    EXPECT_EQ(first.seen, (std::vector<std::string>{"asked, not queued, 1 wait, first", //
+                                                    "set to 254, not queued, 1 wait, first"}));
+    EXPECT_EQ(last.seen, (std::vector<std::string>{"asked, not queued, 0 wait, last", //
+                                                   "set to 254, not queued, 0 wait, last"}));
+    EXPECT_EQ(first.get_name(), nullptr);
+    EXPECT_EQ(last.get_name(), nullptr);
+}
+
+TEST_F(Colour, AssignedFromAnotherTakesTheIndexAndLeavesTheQueueAlone)
+{
+    Attribute_colour waiting(&owner, 12);
+    Attribute_colour behind(&owner, 0);
+    waiting.set_symbol("warning");
+    behind.set_symbol("behind");
+    VT::Container_obj other_owner(VT::VT_obj::NULL_ID, nullptr, 0, 0, 0, 0, 0, nullptr, nullptr);
+    Attribute_colour colour(&other_owner, 3);
+    colour = waiting;
+    EXPECT_EQ(colour, 12);
+    EXPECT_TRUE(colour.changed());
+    EXPECT_FALSE(colour.is_queued());
+    EXPECT_EQ(colour.get_name(), nullptr);
+    EXPECT_EQ(colour.get_object(), &other_owner);
+    EXPECT_TRUE(waiting.is_queued());
+    EXPECT_EQ(Unresolved::unresolved.size(), 2U);
+    EXPECT_TRUE(Unresolved::resolve_colours(number_the_colours));
+    EXPECT_EQ(asked, (std::vector<std::string>{"warning", "behind"}));
+    EXPECT_EQ(colour, 12);
+}
+
+TEST_F(Colour, AssignedFromAnotherIsSettledLikeByANumber)
+{
+    const Attribute_colour other(&owner, 12);
     Attribute_colour colour(&owner, 12);
-    colour.set_symbol("any");
-    EXPECT_TRUE(Unresolved::resolve_colours(too_large));
-    EXPECT_EQ(colour, 0xFF);
+    colour.set_symbol("warning");
+    colour = other;
+    EXPECT_FALSE(colour.is_queued());
+    EXPECT_FALSE(colour.changed());
 }
 
 TEST_F(Colour, QueuedByTheCallbackIsResolvedInTheSameRun)

@@ -22,6 +22,7 @@ TEST(DataMask, ListsItsChildrenInTheOrderTheyWereAdded)
 
     pool.take(box, 11);
     pool.take(button, 12);
+    pool.take(mask, 10);
     mask.write_children();
     EXPECT_EQ(mask.get_type(), Iso::Object_type::data_mask);
     EXPECT_EQ(Record_text::of(mask),
@@ -60,6 +61,7 @@ TEST(SoftKeyMask, ListsItsKeysWithoutPositions)
     keys.add(pointer);
     pool.take(key, 11);
     pool.take(pointer, 12);
+    pool.take(keys, 10);
     keys.write_children();
     EXPECT_EQ(keys.get_type(), Iso::Object_type::soft_key_mask);
     EXPECT_EQ(Record_text::of(keys),
@@ -72,12 +74,65 @@ TEST(Mask, GivesItsChildrenTheIdsOfTheMoment)
     auto box = objects::container();
     VT::Data_mask_obj mask;
     mask.add(box, 0, 0);
-    mask.write_children();
-    EXPECT_EQ(mask.objects[0].object_id, VT::VT_obj::NULL_ID);
+    pool.take(mask, 10);
     pool.take(box, 11);
     mask.write_children();
     EXPECT_EQ(mask.objects[0].object_id, 11);
+    pool.release(box);
+    pool.take(box, 12);
+    mask.write_children();
+    EXPECT_EQ(mask.objects[0].object_id, 12);
     EXPECT_EQ(mask.num_objects, 1);
+}
+
+TEST(Mask, ListsItsChildrenUpToTheFirstThatItsPoolDoesNotHave)
+{
+    Fake_pool pool;
+    auto box = objects::container();
+    auto late = objects::container();
+    VT::Data_mask_obj mask;
+    mask.add(box, 0, 0);
+    mask.add(late, 0, 0);
+    mask.add(box, 0, 0);
+    pool.take(mask, 10);
+    pool.take(box, 11);
+    mask.write_children();
+    EXPECT_EQ(mask.num_objects, 1);
+    pool.take(late, 12);
+    mask.write_children();
+    ASSERT_EQ(mask.num_objects, 3);
+    EXPECT_EQ(mask.objects[1].object_id, 12);
+}
+
+TEST(Mask, ListsNoMoreChildrenThanARecordCanCount)
+{
+    Fake_pool pool;
+    auto box = objects::container();
+    VT::Data_mask_obj mask;
+    pool.take(mask, 10);
+    pool.take(box, 11);
+    for (int i = 0; i < 256; ++i)
+        mask.add(box, 0, 0);
+    mask.write_children();
+    EXPECT_EQ(mask.num_objects, 255);
+}
+
+TEST(Mask, ReportsSoftKeysThatItsPoolDoesNotHave)
+{
+    Fake_pool pool;
+    VT::Soft_key_mask_obj keys;
+    VT::Data_mask_obj mask;
+    pool.take(mask, 2);
+    mask.set_soft_key_mask(&keys);
+    EXPECT_TRUE(pool.reported.empty()); // the load to come may take them in
+    pool.live = true;
+    mask.set_soft_key_mask(&keys);
+    EXPECT_EQ(pool.reported, (std::vector<std::string>{"2 a reference leads to an object that is not in the pool"}));
+    EXPECT_EQ(mask.soft_key_mask, VT::VT_obj::NULL_ID);
+    pool.take(keys, 3);
+    mask.set_soft_key_mask(&keys);
+    mask.set_soft_key_mask(nullptr);
+    EXPECT_EQ(pool.reported.size(), 1U);
 }
 
 TEST(Mask, RemembersItsSoftKeysUntilItHasAnId)
@@ -136,6 +191,7 @@ TEST(WorkingSet, ListsItsFaceAndItsLanguages)
     set.add_language("en");
     set.add_language("de");
     pool.take(picture, 11);
+    pool.take(set, 10);
     set.write_children();
     EXPECT_EQ(Record_text::of(set),
               (Lines{"colour background_colour 0 #1", "u8 selectable 1 #2", "id active_mask null #3", "count u8 1",

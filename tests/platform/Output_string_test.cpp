@@ -82,6 +82,15 @@ TEST(OutputString, RefusesATextLongerThanARecordCanHold)
     EXPECT_EQ(object.length, 0);
 }
 
+TEST(OutputString, RefusesATextThatFitsItsLengthWhileItHasNoBuffer)
+{
+    Fake_pool pool;
+    auto object = objects::output_string(nullptr, 4);
+    pool.take(object, 9);
+    EXPECT_FALSE(Fake_pool::specify(object, {{"value", "ab"s}}));
+    EXPECT_EQ(pool.reported, (std::vector<std::string>{"9 value is too short for that text"}));
+}
+
 TEST(OutputString, RefusesANumberAsItsText)
 {
     Fake_pool pool;

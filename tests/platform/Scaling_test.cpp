@@ -140,6 +140,19 @@ TEST(ScaleCheck, RefusesAPositionBeyondSixteenBits)
     EXPECT_FALSE(object.check_scale_area(1, 33, 1, 1));
 }
 
+TEST(ScaleCheck, RefusesAPointBeyondSixteenBitsAndChangesNothing)
+{
+    VT::Attribute_point points[2];
+    points[1].x = std::uint16_t{2000};
+    points[0].y = std::uint16_t{3000};
+    auto object = objects::polygon(points, 2);
+    const auto before = Record_text::of(object);
+    EXPECT_TRUE(object.check_scale_area(32, 21, 1, 1)) << "64000 across, 63000 down";
+    EXPECT_FALSE(object.check_scale_area(33, 1, 1, 1)) << "66000 across";
+    EXPECT_FALSE(object.check_scale_area(1, 22, 1, 1)) << "66000 down";
+    EXPECT_EQ(Record_text::of(object), before);
+}
+
 TEST(ScaleCheck, WaitsForTheLockAndReleasesIt)
 {
     auto object = objects::container();

@@ -54,8 +54,7 @@ class Fake_terminal : public VT::Client::Terminal_link
         return messages;
     }
 
-  private:
-    std::deque<Bytes> inbox;
+    std::deque<Bytes> inbox; ///< what the terminal says next
 };
 
 #endif

@@ -1,5 +1,6 @@
 // What ends the process while a pool is prepared, with the whole message.
 
+#include "tests/Death.h"
 #include "tests/pool/Screen.h"
 #include "vtui/comp/objects/Container_obj.h"
 #include "vtui/comp/objects/Fill_attributes_obj.h"
@@ -96,7 +97,7 @@ TEST(PoolFatalCheckDeathTest, PlacementWithoutAChild)
 {
     With_child<C::Container_obj> parent(nullptr);
     EXPECT_EXIT(prepare(parent.parent), KilledBySignal(SIGABRT),
-                "lib/vtui/comp/objects/Has_child_placements:213: void "
-                "VT::Comp::Child_placements_array<Array_type>::deref\\(\\) \\[with Array_type = Array_array_1\\]: "
-                "Assertion `false' failed\\.");
+                death::assertion(
+                    "false", "../../../../lib/vtui/comp/objects/Has_child_placements", 213,
+                    "void VT::Comp::Child_placements_array<Array_type>::deref() [with Array_type = Array_array_1]"));
 }

@@ -327,6 +327,21 @@ TEST(PoolReceiving, KeepsRefusedCommandsWithTheirObjects)
     EXPECT_TRUE(panel.pool.is_live());
 }
 
+TEST(PoolReceiving, KeepsFunctionsThatTheTerminalDoesNotKnow)
+{
+    Panel panel;
+    panel.load();
+    for (const Bytes& response : {frame(0xFD, 0xB4), frame(0xFD, 0x77)})
+        panel.pool.receive(response.data(), response.size());
+    const std::vector<VT::Problem> problems = panel.pool.take_problems();
+    ASSERT_EQ(problems.size(), 2u);
+    EXPECT_EQ(problems[0].error, Error::rejected_command);
+    EXPECT_EQ(problems[0].id, Iso::null_id);
+    EXPECT_EQ(problems[0].text, "The terminal does not know Change Child Position");
+    EXPECT_EQ(problems[1].text, "The terminal does not know function 119");
+    EXPECT_TRUE(panel.pool.is_live());
+}
+
 TEST(PoolReceiving, KeepsTheFirstProblemsOfAnApplicationThatNeverAsks)
 {
     Panel panel;

@@ -153,6 +153,48 @@ TEST(PoolLoading, DoesNotWaitForEver)
     }
 }
 
+TEST(PoolLoading, EndsAtOnceWhenTheTerminalDoesNotKnowTheQuestion)
+{
+    const std::pair<std::uint8_t, const char*> questions[] = {
+        {0xC7, "The terminal does not know Get Hardware"},
+        {0xC0, "The terminal does not know Get Memory"},
+        {0x12, "The terminal does not know End of Object Pool"},
+    };
+    for (const auto& [function, text] : questions) {
+        Screen screen;
+        Fake_terminal terminal;
+        terminal.answers[function] = frame(0xFD, function);
+        const VT::Problem error = only_error(screen.pool.load(terminal));
+        EXPECT_EQ(error.error, Error::unusable_terminal);
+        EXPECT_EQ(error.text, text);
+        EXPECT_EQ(terminal.sent.back()[0], function) << "nothing was sent while it waited";
+    }
+}
+
+TEST(PoolLoading, GoesOnWhenTheTerminalDoesNotKnowSomethingElse)
+{
+    Screen screen;
+    Fake_terminal terminal;
+    terminal.inbox.push_back(frame(0xFD, 0xC2));
+    EXPECT_TRUE(screen.pool.load(terminal));
+}
+
+TEST(PoolLoading, EndsWithATerminalWhoseMaskHasNoPixels)
+{
+    for (const Bytes& hardware : {frame(0xC7, 0xFF, 2, 3, w(0), w(480)), frame(0xC7, 0xFF, 2, 3, w(480), w(0))}) {
+        Screen screen;
+        screen.pool.set_designed_size(240);
+        Fake_terminal terminal;
+        terminal.answers[0xC7] = hardware;
+        const VT::Problem error = only_error(screen.pool.load(terminal));
+        EXPECT_EQ(error.error, Error::unusable_terminal);
+        EXPECT_EQ(error.text, "The terminal says that its data mask has no pixels");
+        EXPECT_EQ(terminal.sent.size(), 2u);
+        EXPECT_FALSE(screen.pool.information());
+        EXPECT_EQ(only_error(screen.pool.ask_hardware(terminal)).error, Error::unusable_terminal);
+    }
+}
+
 TEST(PoolLoading, IsNotKeptFromTimingOutByOtherMessages)
 {
     class Chatterbox final : public VT::Client::Terminal_link
@@ -240,6 +282,28 @@ TEST(PoolLoading, BringsThePresentValuesBack)
     container.set_hidden(false);
     EXPECT_EQ(back.sent, (std::vector<Bytes>{frame(0xA0, w(2), 1)}));
     EXPECT_TRUE(terminal.sent.empty());
+}
+
+TEST(PoolLoading, TellsTheTerminalAfterwardsWhatChangedMeanwhile)
+{
+    C::Container_obj changed;
+    C::Container_obj hidden;
+    C::Container_obj same;
+    Screen screen;
+    for (VT::VT_obj* object : {&changed, &hidden, &same})
+        screen.pool.add(*object);
+    Fake_terminal terminal;
+    ASSERT_TRUE(screen.pool.load(terminal, [&](std::size_t, std::size_t) {
+        changed.width = 7;
+        hidden.set_hidden(true);
+    }));
+    ASSERT_EQ(terminal.sent.size(), 9u);
+    EXPECT_EQ(terminal.sent[4], end_of_pool);
+    EXPECT_EQ(terminal.sent[5], join(0x11, w(2), 3, w(7), w(240), 0, 0, 0));
+    EXPECT_EQ(terminal.sent[6], end_of_pool);
+    EXPECT_EQ(terminal.sent[7], join(0x11, w(3), 3, w(240), w(240), 1, 0, 0));
+    EXPECT_EQ(terminal.sent[8], end_of_pool);
+    EXPECT_TRUE(screen.pool.is_live());
 }
 
 TEST(PoolLoading, IsMaintainedBySecondBySecondMessages)

@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+#include <vector>
+
 namespace {
 
 /// A screen laid out for 240 pixels, before a terminal with `width` x `height` pixels.
@@ -19,6 +22,36 @@ struct Scaled : Screen
     }
 
     Fake_terminal terminal;
+};
+
+/// A component's polygon, scaled to one half across and one third down.
+struct Scaled_polygon
+{
+    using Point = std::pair<short, short>;
+    using Points = std::vector<std::pair<int, int>>;
+
+    Scaled_polygon(Point first, Point second, Point third)
+    {
+        vertices.points[0] = first;
+        vertices.points[1] = second;
+        vertices.points[2] = third;
+        polygon.vertices_ptr = &vertices;
+        screen.pool.add(polygon);
+        EXPECT_TRUE(screen.pool.load(screen.terminal));
+    }
+
+    /// As the record has them.
+    Points points() const
+    {
+        Points all;
+        for (std::size_t i = 0; i < polygon.num_points; ++i)
+            all.emplace_back(polygon.points[i].x, polygon.points[i].y);
+        return all;
+    }
+
+    C::Polygon_obj polygon;
+    C::Vertex_array<Array_array_3> vertices;
+    Scaled screen{120, 80};
 };
 
 } // namespace
@@ -74,6 +107,104 @@ TEST(PoolScaling, ScalesPolygonsWithTheirPoints)
     EXPECT_EQ(polygon.width, 60);
     EXPECT_EQ(polygon.points[1].x, 20);
     EXPECT_EQ(polygon.points[1].y, 3);
+}
+
+TEST(PoolScaling, KeepsTheComponentsPointsInStep)
+{
+    Scaled_polygon scaled({101, 51}, {0, 1}, {32767, 7});
+    const Scaled_polygon::Points expected{{50, 17}, {0, 0}, {16383, 2}};
+    EXPECT_EQ(scaled.points(), expected);
+    scaled.vertices.deref();
+    EXPECT_EQ(scaled.points(), expected);
+}
+
+TEST(PoolScaling, KeepsTheComponentsPointsInStepFrom0x8000OnToo)
+{
+    Scaled_polygon scaled({-1, -32768}, {0, 0}, {0, 0}); // 65535, 32768
+    const Scaled_polygon::Points expected{{32767, 10922}, {0, 0}, {0, 0}};
+    EXPECT_EQ(scaled.points(), expected);
+    scaled.vertices.deref();
+    EXPECT_EQ(scaled.points(), expected);
+}
+
+TEST(PoolScaling, RefusesPolygonsWithPointsThatDoNotFit)
+{
+    C::Polygon_obj polygon;
+    C::Vertex_array<Array_array_3> vertices;
+    vertices.points[2] = {20000, 0};
+    polygon.vertices_ptr = &vertices;
+    Scaled screen(960, 240);
+    screen.pool.add(polygon);
+    const VT::Result result = screen.pool.load(screen.terminal);
+    EXPECT_EQ(result.error(), VT::Error::does_not_fit);
+    EXPECT_EQ(result.text(),
+              "polygon 2 does not fit 16 bits when the pool is scaled from 240 x 240 to 960 x 240 pixels\n");
+    EXPECT_EQ(vertices.points[2].first, 20000);
+}
+
+TEST(PoolScaling, TakesInChildrenOfAScaledMaskWithTheirPositions)
+{
+    C::Container_obj old;
+    C::Container_obj late;
+    Scaled screen;
+    screen.mask.add(old, 10, 20);
+    ASSERT_TRUE(screen.pool.load(screen.terminal));
+    screen.mask.add(late, 100, -50);
+    screen.mask.add(old, 7, 8);
+    ASSERT_TRUE(screen.pool.load(screen.terminal));
+    EXPECT_EQ(late.width, 480);
+    EXPECT_EQ(late.height, 120);
+    EXPECT_EQ(old.width, 480) << "not scaled again";
+    ASSERT_EQ(screen.mask.num_objects, 3);
+    const auto position = [&](std::size_t child) {
+        return std::pair<int, int>(screen.mask.objects[child].x, screen.mask.objects[child].y);
+    };
+    EXPECT_EQ(position(0), std::make_pair(20, 10));
+    EXPECT_EQ(position(1), std::make_pair(200, -25));
+    EXPECT_EQ(position(2), std::make_pair(14, 4));
+    ASSERT_TRUE(screen.pool.load(screen.terminal));
+    EXPECT_EQ(position(1), std::make_pair(200, -25));
+}
+
+TEST(PoolScaling, StaysAsItIsForATerminalWithAnotherMask)
+{
+    C::Container_obj container;
+    Scaled screen;
+    screen.mask.add(container, 10, 20);
+    ASSERT_TRUE(screen.pool.load(screen.terminal));
+    Fake_terminal other; // 480 x 480
+    const VT::Result result = screen.pool.load(other);
+    ASSERT_TRUE(result) << result.text();
+    ASSERT_EQ(result.warnings.size(), 1u);
+    EXPECT_EQ(result.warnings[0].error, VT::Error::other_mask_size);
+    EXPECT_EQ(result.warnings[0].text, "The pool was scaled to a data mask of 480 x 120 pixels and stays so; the "
+                                       "terminal's has 480 x 480");
+    EXPECT_EQ(container.width, 480);
+    EXPECT_EQ(container.height, 120);
+    EXPECT_EQ(screen.mask.objects[0].y, 10);
+    EXPECT_TRUE(screen.pool.is_live());
+    EXPECT_TRUE(screen.pool.load(screen.terminal).warnings.empty()) << "back at the first";
+}
+
+TEST(PoolScaling, TakesInNewObjectsAsThePoolIsScaledWhateverTheTerminal)
+{
+    C::Container_obj old;
+    C::Container_obj late;
+    Scaled screen;
+    screen.mask.add(old, 10, 20);
+    ASSERT_TRUE(screen.pool.load(screen.terminal));
+    screen.mask.add(late, 100, 50);
+    Fake_terminal other; // 480 x 480
+    ASSERT_TRUE(screen.pool.load(other));
+    const auto expect_scaled = [&] {
+        EXPECT_EQ(late.width, 480);
+        EXPECT_EQ(late.height, 120);
+        EXPECT_EQ(screen.mask.objects[1].x, 200);
+        EXPECT_EQ(screen.mask.objects[1].y, 25);
+    };
+    expect_scaled();
+    ASSERT_TRUE(screen.pool.load(screen.terminal));
+    expect_scaled();
 }
 
 TEST(PoolScaling, WaitsForTheTerminalAndHappensOnce)

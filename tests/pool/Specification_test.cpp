@@ -116,6 +116,30 @@ TEST(PoolSpecification, KnowsItsObjectsAndTheirAttributes)
     EXPECT_EQ(result.errors[1].object, "speed");
 }
 
+TEST(PoolSpecification, IsReportedUntilItIsTakenBack)
+{
+    C::Output_number_obj number;
+    number.set_name("rate");
+    Screen screen;
+    screen.pool.add(number);
+    screen.pool.specify("rate", "width", 65536);
+    screen.pool.specify("rate", "colour", 1);
+    screen.pool.specify("rate", "height", 20);
+    screen.pool.specify("speed", "width", 1);
+    EXPECT_EQ(screen.pool.prepare().errors.size(), 3u);
+    EXPECT_EQ(screen.pool.prepare().errors.size(), 3u);
+    screen.pool.unspecify("rate", "width");
+    screen.pool.unspecify("rate", "colour");
+    EXPECT_EQ(screen.pool.prepare().error(), Error::unknown_object);
+    screen.pool.unspecify("speed", "width");
+    screen.pool.unspecify("speed", "width"); // nothing is specified
+    screen.pool.unspecify("rate", "length");
+    const VT::Result result = screen.pool.prepare();
+    ASSERT_TRUE(result) << result.text();
+    EXPECT_EQ(number.width, 0);
+    EXPECT_EQ(number.height, 20);
+}
+
 TEST(PoolSpecification, IsAppliedOnce)
 {
     C::Container_obj first;
@@ -173,6 +197,25 @@ TEST(PoolColours, ForgetsASpecifiedSymbolThatNobodyKnows)
         EXPECT_TRUE(screen.pool.prepare());
     }
     EXPECT_EQ(key.background_colour, 124);
+}
+
+TEST(PoolColours, AreResolvedBeforeTheSpecificationIsApplied)
+{
+    static std::vector<std::string> asked;
+    asked.clear();
+    Screen screen;
+    screen.mask.set_name("home");
+    screen.mask.background_colour.set_symbol("warm");
+    screen.working_set.background_colour.set_symbol("cold");
+    screen.pool.specify("home", "background_colour", 9);
+    screen.pool.set_colour_resolver([](VT::Resolve_colour::Attribute_node& node) -> unsigned char {
+        asked.emplace_back(node.get_name());
+        return 50;
+    });
+    ASSERT_TRUE(screen.pool.prepare());
+    EXPECT_EQ(asked, (std::vector<std::string>{"warm", "cold"}));
+    EXPECT_EQ(screen.mask.background_colour, 9);
+    EXPECT_EQ(screen.working_set.background_colour, 50);
 }
 
 TEST(PoolColours, KnowsTheSixteenStandardNames)

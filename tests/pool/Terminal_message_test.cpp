@@ -88,6 +88,11 @@ TEST(TerminalMessage, ResponsesToEveryCommand)
     }
 }
 
+TEST(TerminalMessage, SaysWhichFunctionTheTerminalDoesNotKnow)
+{
+    EXPECT_EQ(decoded<VT::Unsupported_function_response>(frame(0xFD, 0xA0)).function, Iso::Function::hide_show);
+}
+
 TEST(TerminalMessage, IsNothingWhenItIsUnknownOrTooShort)
 {
     for (const Bytes& message : {frame(0xC3), frame(0x77), Bytes(), Bytes(7, 0), frame(0x08, w(300), 5, "abcd")})
