@@ -31,7 +31,8 @@ struct Hardware
 /// bytes or, for a text, more.
 ///
 /// A message that is too short for its function is ignored, as is an answer to one of the terminal's own events. A
-/// function that the terminal does not know is answered with Function::unsupported_function and its number.
+/// function that the terminal does not know is answered with Function::unsupported_function and its number. Macros are
+/// checked but not executed, and enter_text() does not apply the validation of an input's attributes.
 class Terminal
 {
   public:

@@ -15,9 +15,12 @@ void View::fill(const Area& area, std::uint8_t colour) const { fill(area, Paint{
 
 void View::fill(const Area& area, const Paint& paint) const
 {
+    constexpr int work_of_call = 4;
+    spend(work_of_call);
     const Area place = area.moved(origin.x, origin.y) & clip;
     if (place.empty())
         return;
+    spend(place.size());
     const auto count = static_cast<std::size_t>(place.width());
     for (int y = place.top; y < place.bottom; ++y) {
         std::uint8_t* const to = canvas->row(y) + place.left;

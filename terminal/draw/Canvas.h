@@ -26,6 +26,7 @@ struct Area
     bool empty() const { return left >= right || top >= bottom; }
     int width() const { return right - left; }
     int height() const { return bottom - top; }
+    std::int64_t size() const { return std::int64_t{width()} * height(); } ///< of an area that is not empty
     Area moved(int x, int y) const { return {left + x, top + y, right + x, bottom + y}; }
 };
 
@@ -39,6 +40,9 @@ class View;
 
 /// A picture of palette indices, one byte a pixel, rows without padding. It owns its pixels; drawing goes through
 /// views.
+///
+/// A canvas counts the work that is done on it, so that a drawing that would take too long can be ended: one for each
+/// pixel written, and as much for each step that takes as long, such as to pass a run of a packed picture.
 class Canvas
 {
   public:
@@ -52,6 +56,10 @@ class Canvas
     int height() const { return rows; }
     Area area() const { return {0, 0, columns, rows}; }
 
+    std::int64_t work() const { return spent; }
+    void spend(std::int64_t more) { spent += more; }
+    void forget_work() { spent = 0; }
+
     std::uint8_t* row(int y) { return pixels.data() + offset(y); }
     const std::uint8_t* row(int y) const { return pixels.data() + offset(y); }
 
@@ -62,6 +70,7 @@ class Canvas
 
     int columns = 0;
     int rows = 0;
+    std::int64_t spent = 0;
     std::vector<std::uint8_t> pixels;
 };
 
@@ -94,6 +103,9 @@ class View
     /// What can change, in this view's coordinates.
     Area visible() const { return clip.moved(-origin.x, -origin.y); }
     bool sees_nothing() const { return clip.empty(); }
+
+    /// Counts work that is not writing pixels by fill(), which counts them itself.
+    void spend(std::int64_t work) const { canvas->spend(work); }
 
     /// The pixels from a visible point on.
     std::uint8_t* at(int x, int y) const { return canvas->row(origin.y + y) + (origin.x + x); }

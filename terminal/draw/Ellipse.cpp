@@ -99,6 +99,7 @@ void fill_row(const View& view, int first, int last, int y, const Paint& paint, 
 {
     first = std::max(first, view.visible().left);
     last = std::min(last, view.visible().right);
+    view.spend(std::max(0, last - first));
     int start = first;
     for (int x = first; x < last; ++x) {
         if (!wanted(x)) {
@@ -159,6 +160,10 @@ void draw_ellipse(const View& view, int width, int height, const Arc& arc, const
 
     if (pen.width <= 0)
         return;
+    constexpr int work_of_lengths = 2048;
+    constexpr int work_of_inset = 2;
+    constexpr int work_of_length = 8;
+    box.spend(work_of_lengths + std::int64_t{work_of_inset} * visible.height() * (2 * pen.width + 1));
     const Arc_length lengths(a, b);
     const double art_start = whole && arc.type == Ellipse_type::closed ? 0 : lengths.at(first_point);
     const auto drawn = [&](int x, int y) {
@@ -167,6 +172,7 @@ void draw_ellipse(const View& view, int width, int height, const Arc& arc, const
             return false;
         if (pen.solid())
             return true;
+        box.spend(work_of_length);
         double along = lengths.at(d) - art_start;
         if (along < -tolerance)
             along += lengths.whole();

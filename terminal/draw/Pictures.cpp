@@ -1,5 +1,6 @@
 #include "terminal/draw/Pictures.h"
 
+#include <array>
 #include <limits>
 
 namespace terminal {
@@ -49,7 +50,7 @@ class Steps
 class Plain_bytes
 {
   public:
-    Plain_bytes(const std::uint8_t* bytes, std::size_t count) : data(bytes), size(count) {}
+    Plain_bytes(const Picture& picture, std::int64_t&) : data(picture.data), size(picture.size) {}
 
     /// The byte at an offset, or -1.
     int at(std::size_t offset) { return offset < size ? data[offset] : -1; }
@@ -63,9 +64,13 @@ class Plain_bytes
 class Run_bytes
 {
   public:
-    Run_bytes(const std::uint8_t* bytes, std::size_t count) : data(bytes), size(count & ~std::size_t{1}) {}
+    /// Adds the pairs that it passes to `pairs_passed`.
+    Run_bytes(const Picture& picture, std::int64_t& pairs_passed)
+        : data(picture.data), size(picture.size & ~std::size_t{1}), passed(&pairs_passed)
+    {}
 
-    /// The byte at an offset of the unpacked picture, or -1. Going forward costs a step a run, going back starts over.
+    /// The byte at an offset of the unpacked picture, or -1. Going forward costs a step a run, even one of no bytes;
+    /// going back starts over.
     int at(std::size_t offset)
     {
         if (offset < run_start)
@@ -73,6 +78,7 @@ class Run_bytes
         while (pair < size && offset - run_start >= data[pair]) {
             run_start += data[pair];
             pair += 2;
+            ++*passed;
         }
         return pair < size ? data[pair + 1] : -1;
     }
@@ -80,49 +86,79 @@ class Run_bytes
   private:
     const std::uint8_t* data;
     std::size_t size;
+    std::int64_t* passed;
     std::size_t pair = 0;      ///< where the current run is stored
     std::size_t run_start = 0; ///< where it starts in the unpacked picture
 };
 
-/// Draws what is visible of `area`, a pixel of the area's row y and column x showing the source pixel at *rows,
-/// *columns.
+constexpr int strip_width = 1024; ///< pixels of a row that are unpacked in one go
+
+/// Draws what is visible of a picture, at most a strip wide. The first pixel shows the source pixel at *rows,
+/// *first_column; after `width` columns and `height` rows the picture starts over. Each row of the source is unpacked
+/// once, however often it is shown, for its data may be many times its pixels.
 template <typename Bytes>
-void draw_rows(const View& view, const Picture& picture, const Area& visible, Steps rows, const Steps& first_column)
+void draw_strip(const View& view, const Picture& picture, const Area& visible, Steps rows, const Steps& first_column,
+                int width, int height)
 {
     const auto bits = static_cast<unsigned>(picture.bits);
     const unsigned mask = (1u << bits) - 1;
     const std::size_t row_size = (static_cast<std::size_t>(picture.width) * bits + 7) / 8;
-    Bytes row_start(picture.data, picture.size);
-    for (int y = visible.top; y < visible.bottom; ++y, ++rows) {
-        const std::size_t row = static_cast<std::size_t>(*rows) * row_size;
-        row_start.at(row);
-        Bytes bytes = row_start;
+    constexpr std::int16_t nothing = -1;
+    std::array<std::int16_t, strip_width> pixels;
+    const auto columns = static_cast<std::size_t>(visible.width());
+    const std::size_t different = std::min(columns, static_cast<std::size_t>(width));
+
+    std::int64_t work = visible.size();
+    Bytes bytes(picture, work);
+    const auto unpack = [&](std::size_t row) {
+        bytes.at(row);
+        const Bytes row_start = bytes;
         Steps column = first_column;
         int last_column = 0;
-        std::uint8_t* to = view.at(visible.left, y);
-        for (int x = visible.left; x < visible.right; ++x, ++to, ++column) {
+        for (std::size_t i = 0; i < different; ++i, ++column) {
             if (*column < last_column)
                 bytes = row_start;
             last_column = *column;
             const std::size_t first_bit = static_cast<std::size_t>(last_column) * bits;
             const int byte = bytes.at(row + first_bit / 8);
-            if (byte < 0)
-                continue;
-            const unsigned pixel = static_cast<unsigned>(byte) >> (8 - bits - first_bit % 8) & mask;
-            if (static_cast<int>(pixel) != picture.transparent)
-                *to = static_cast<std::uint8_t>(pixel);
+            const auto pixel = static_cast<int>(static_cast<unsigned>(byte) >> (8 - bits - first_bit % 8) & mask);
+            pixels[i] = byte < 0 || pixel == picture.transparent ? nothing : static_cast<std::int16_t>(pixel);
+        }
+        for (std::size_t i = different; i < columns; ++i)
+            pixels[i] = pixels[i - different];
+        work += visible.width();
+    };
+
+    int unpacked = -1;
+    for (int first = visible.top; first < std::min(visible.bottom, visible.top + height); ++first, ++rows) {
+        if (*rows != unpacked) {
+            unpacked = *rows;
+            unpack(static_cast<std::size_t>(unpacked) * row_size);
+        }
+        for (int y = first; y < visible.bottom; y += height) {
+            std::uint8_t* const to = view.at(visible.left, y);
+            for (std::size_t i = 0; i < columns; ++i) {
+                if (pixels[i] != nothing)
+                    to[i] = static_cast<std::uint8_t>(pixels[i]);
+            }
         }
     }
+    view.spend(work);
 }
 
-void draw(const View& view, const Picture& picture, const Area& area, Steps::Ratio scale)
+/// Draws into an area a picture that starts over after `width` columns and `height` rows.
+void draw(const View& view, const Picture& picture, const Area& area, Steps::Ratio scale, int width, int height)
 {
     const Area visible = view.visible() & area;
     if (visible.empty())
         return;
-    const Steps columns(visible.left, scale, picture.width);
     const Steps rows(visible.top, scale, picture.height);
-    (picture.runs ? draw_rows<Run_bytes> : draw_rows<Plain_bytes>)(view, picture, visible, rows, columns);
+    for (Area strip = visible; strip.left < visible.right; strip.left = strip.right) {
+        strip.right = std::min(strip.left + strip_width, visible.right);
+        const Steps columns(strip.left, scale, picture.width);
+        (picture.runs ? draw_strip<Run_bytes> : draw_strip<Plain_bytes>)(view, picture, strip, rows, columns, width,
+                                                                         height);
+    }
 }
 
 } // namespace
@@ -140,7 +176,8 @@ void draw_picture(const View& view, const Picture& picture, int drawn_width)
     if (picture.width <= 0 || picture.height <= 0 || drawn_width <= 0)
         return;
     // The scale is the one of the width in both directions; the height follows from it.
-    draw(view, picture, {0, 0, drawn_width, drawn_height(picture, drawn_width)}, {picture.width, drawn_width});
+    const int height = drawn_height(picture, drawn_width);
+    draw(view, picture, {0, 0, drawn_width, height}, {picture.width, drawn_width}, drawn_width, height);
 }
 
 void tile_picture(const View& view, const Picture& picture)
@@ -150,7 +187,7 @@ void tile_picture(const View& view, const Picture& picture)
     Area quadrant = view.visible();
     quadrant.left = std::max(quadrant.left, 0);
     quadrant.top = std::max(quadrant.top, 0);
-    draw(view, picture, quadrant, {1, 1});
+    draw(view, picture, quadrant, {1, 1}, picture.width, picture.height);
 }
 
 } // namespace terminal

@@ -2,6 +2,8 @@
 
 #include "iso11783/Font_size.h"
 #include "iso11783/Palette.h"
+#include "terminal/Control.h"
+#include "terminal/Nesting.h"
 #include "terminal/draw/Number_text.h"
 #include "terminal/draw/Pictures.h"
 
@@ -14,7 +16,11 @@ namespace {
 
 using Iso::Object_type;
 
-constexpr int deepest = 64; ///< a pool that nests deeper is refused, so this is never reached
+constexpr int deepest = Nesting::max_depth; ///< a pool that nests deeper is refused, so this is never reached
+
+/// What an object costs to draw however small it is, and what a number costs to be made text, in units of work.
+constexpr int work_of_object = 40;
+constexpr int work_of_number = 256;
 
 constexpr std::uint8_t black = 0;
 constexpr std::uint8_t white = 1;
@@ -27,10 +33,10 @@ namespace string_option {
 constexpr unsigned transparent = 1, auto_wrap = 2, wrap_on_hyphen = 4;
 }
 namespace button_option {
-constexpr unsigned latched = 2, suppress_border = 4, transparent = 8, disabled = 16, no_border = 32;
+constexpr unsigned latched = 2, suppress_border = 4, transparent = 8, no_border = 32;
 }
 namespace picture_option {
-constexpr unsigned transparent = 1, runs = 4;
+constexpr unsigned transparent = 1;
 }
 
 constexpr int button_border = 4;
@@ -47,7 +53,7 @@ Picture picture_of(Object object)
     picture.width = object.u16(Field::actual_width);
     picture.height = object.u16(Field::actual_height);
     picture.bits = object.u8(Field::format) == 0 ? 1 : object.u8(Field::format) == 1 ? 4 : 8;
-    picture.runs = options & picture_option::runs;
+    picture.runs = options & run_length_encoded;
     if (options & picture_option::transparent)
         picture.transparent = object.u8(Field::transparency_colour);
     return picture;
@@ -75,8 +81,7 @@ QImage Renderer::draw(const Terminal& terminal, std::size_t first_key)
     const int rows = height == 0 ? 1 : std::max(1, size / height);
     const int columns = (cells + rows - 1) / rows;
 
-    pool = &terminal.pool();
-    canvas.resize(size + columns * width, size);
+    start(terminal.pool(), size + columns * width, size);
     canvas.view().fill(canvas.area(), black);
     const Object mask = terminal.active_mask();
     if (mask)
@@ -96,27 +101,40 @@ QImage Renderer::draw(const Terminal& terminal, std::size_t first_key)
                           background);
         }
     }
-    return image();
+    return finish();
 }
 
 QImage Renderer::draw_mask(const Object_pool& objects, Object mask, int size)
 {
-    pool = &objects;
-    canvas.resize(size, size);
+    start(objects, size, size);
     paint_mask(canvas.view(), mask);
-    return image();
+    return finish();
 }
 
 QImage Renderer::draw_key(const Object_pool& objects, Object key, int width, int height)
 {
-    pool = &objects;
-    canvas.resize(width, height);
+    start(objects, width, height);
     paint_key(canvas.view(), key, black);
-    return image();
+    return finish();
 }
 
-QImage Renderer::image() const
+std::int64_t Renderer::most_work() const
 {
+    constexpr Area usual{0, 0, 480, 480};
+    return times_painted * std::max(canvas.area().size(), usual.size());
+}
+
+void Renderer::start(const Object_pool& objects, int width, int height)
+{
+    pool = &objects;
+    canvas.resize(width, height);
+    canvas.forget_work();
+    pattern.forget_work();
+}
+
+QImage Renderer::finish()
+{
+    pool = nullptr;
     static const QVector<QRgb> palette = make_palette();
     QImage result(canvas.width(), canvas.height(), QImage::Format_Indexed8);
     result.setColorTable(palette);
@@ -150,6 +168,8 @@ void Renderer::paint_children(const View& view, const List<Child>& children)
         return;
     ++depth;
     for (const Child child : children) {
+        if (work() >= most_work())
+            break;
         // A window that starts at the child's place; each object cuts it to its own size.
         constexpr int beyond = 1 << 20;
         const View place = view.inside({child.x, child.y, child.x + beyond, child.y + beyond});
@@ -165,6 +185,7 @@ void Renderer::paint(const View& view, Object object)
         object = find(object, Field::value);
     if (!object)
         return;
+    view.spend(work_of_object);
     switch (object.type()) {
     case Object_type::container:
         return paint_container(view, object);
@@ -224,8 +245,9 @@ void Renderer::paint_button(const View& view, Object button)
     if (!(options & button_option::transparent))
         inner.fill(inner.visible(), button.u8(Field::background));
     paint_children(inner, button.children());
-    if (options & button_option::disabled) {
+    if (!is_enabled(button) && !inner.sees_nothing()) {
         const Area visible = inner.visible();
+        view.spend(visible.size());
         for (int y = visible.top; y < visible.bottom; ++y) {
             for (int x = visible.left + ((visible.left + y) & 1); x < visible.right; x += 2)
                 *inner.at(x, y) = grey;
@@ -267,6 +289,7 @@ void Renderer::paint_string(const View& view, Object string)
 
 void Renderer::paint_number(const View& view, Object number)
 {
+    view.spend(work_of_number);
     const unsigned options = number.u8(Field::options);
     Number_format format;
     format.offset = number.s32(Field::offset);

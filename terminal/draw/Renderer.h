@@ -19,7 +19,9 @@ namespace terminal {
 /// in the pool; their colour table is the standard's. A renderer keeps its glyphs and buffers from picture to picture
 /// and is not shared between threads; the pictures it returns are their owner's.
 ///
-/// Objects that do not exist, null references and what an object does not support are left out of the picture.
+/// Objects that do not exist, null references and what an object does not support are left out of the picture. So are
+/// the objects that remain when the work of drawing gets out of hand, which it does only in a hostile pool: after as
+/// much as it takes to paint every pixel `times_painted` times, a tenth of a second at 480 × 480 pixels.
 class Renderer
 {
   public:
@@ -37,7 +39,16 @@ class Renderer
     /// One soft key in its cell. An object pointer shows the key it points at, or an empty cell.
     QImage draw_key(const Object_pool& objects, Object key, int width, int height);
 
+    /// What went into the last picture, in the units of Canvas, and after how much of it no further object is drawn.
+    std::int64_t work() const { return canvas.work() + pattern.work(); }
+    std::int64_t most_work() const;
+
   private:
+    static constexpr int times_painted = 150;
+
+    void start(const Object_pool& objects, int width, int height);
+    QImage finish();
+
     void paint_mask(const View& view, Object mask);
     void paint_key(const View& view, Object key, std::uint8_t mask_background);
     void paint_children(const View& view, const List<Child>& children);
@@ -61,7 +72,6 @@ class Renderer
     Font font_of(Object object) const;
     Pen pen_of(Object shape) const;
     const Paint* fill_of(const View& view, Object shape, Paint& paint);
-    QImage image() const;
 
     const Object_pool* pool = nullptr; ///< only while drawing
     int depth = 0;                     ///< of nested objects

@@ -45,6 +45,8 @@ void stroke(const View& view, const Pen& pen, Position from, Position to)
         return paint(first, last, across_start, across_start + spot); // nothing, if last is before first
 
     // Neighbouring distances that the spot covers from the same to the same pixel across are painted in one go.
+    constexpr int work_of_step = 3;
+    view.spend(work_of_step * std::int64_t{std::max(0, last - first + 1)});
     constexpr int no_run = -1;
     int run_first = no_run;
     int run_low = 0;
@@ -107,6 +109,8 @@ void draw_polygon(const View& view, int width, int height, const Position* point
 
     if (fill && !open) {
         const Area visible = box.visible();
+        constexpr int work_of_edge = 8; // in each row
+        box.spend(work_of_edge * static_cast<std::int64_t>(edges) * visible.height());
         std::array<int, 256> crossings;
         for (int y = visible.top; y < visible.bottom; ++y) {
             std::size_t n = 0;

@@ -53,13 +53,20 @@ void draw_line(const View& view, Glyphs& glyphs, std::string_view line, const Fo
 
 std::string_view take_line(std::string_view& rest, std::size_t columns, Wrapping wrapping)
 {
-    const std::size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
-    const std::string_view line = without_spaces_at_end(rest.substr(0, end));
-    if (wrapping.at_spaces && line.size() > columns) {
-        const std::size_t cut = wrap_at(line, columns, wrapping.after_hyphens);
-        rest.remove_prefix(line.find_first_not_of(' ', cut));
-        return without_spaces_at_end(line.substr(0, cut));
+    constexpr std::string_view breaks = "\r\n";
+    std::size_t end = rest.substr(0, wrapping.at_spaces ? columns + 1 : rest.npos).find_first_of(breaks);
+    if (wrapping.at_spaces && end == rest.npos) {
+        // Not to look through all the rest for the end of each line: what follows decides whether this one is too long.
+        end = rest.find_first_not_of(' ', columns);
+        if (end != rest.npos && breaks.find(rest[end]) == breaks.npos) {
+            const std::size_t cut = wrap_at(rest, columns, wrapping.after_hyphens);
+            const std::string_view line = without_spaces_at_end(rest.substr(0, cut));
+            rest.remove_prefix(rest.find_first_not_of(' ', cut));
+            return line;
+        }
     }
+    end = std::min(end, rest.size());
+    const std::string_view line = without_spaces_at_end(rest.substr(0, end));
     rest.remove_prefix(end);
     if (!rest.empty())
         rest.remove_prefix(rest.substr(0, 2) == "\r\n" ? 2 : 1);
@@ -74,6 +81,8 @@ void draw_text(const View& view, Glyphs& glyphs, std::string_view text, const Fo
     if (field.sees_nothing() || cell.width == 0)
         return;
     text = text.substr(0, text.find('\0'));
+    constexpr int work_of_character = 8; // to find the line it stands in, twice
+    field.spend(work_of_character * static_cast<std::int64_t>(text.size()));
     const auto columns = static_cast<std::size_t>(std::max(1, width / cell.width));
 
     int lines = 0;
