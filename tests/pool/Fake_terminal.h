@@ -1,7 +1,7 @@
 #ifndef TESTS_POOL_FAKE_TERMINAL_H
 #define TESTS_POOL_FAKE_TERMINAL_H
 
-#include "tests/pool/Bytes.h"
+#include "tests/Bytes.h"
 #include "vt/Terminal_link.h"
 
 #include <chrono>

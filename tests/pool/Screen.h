@@ -2,7 +2,7 @@
 #define TESTS_POOL_SCREEN_H
 
 #include "pool/Pool.h"
-#include "tests/pool/Bytes.h"
+#include "tests/Bytes.h"
 #include "vt/Working_set_obj.h"
 #include "vtui/comp/objects/Has_child_placements.h"
 

@@ -1,5 +1,5 @@
 #include "pool/Terminal_message.h"
-#include "tests/pool/Bytes.h"
+#include "tests/Bytes.h"
 
 #include <gtest/gtest.h>
 

@@ -4,37 +4,15 @@
 #include "iso11783/Bytes.h"
 #include "iso11783/Object_type.h"
 #include "terminal/Object_pool.h"
+#include "tests/Bytes.h"
 
 #include <cstdint>
-#include <string_view>
 #include <vector>
 
-/// Object records written by hand. A plain number is one byte, w() two, d() four; a list of bytes stands for itself.
+/// Object records written by hand.
 namespace records {
 
-using Bytes = std::vector<std::uint8_t>;
 using Type = Iso::Object_type;
-
-inline Bytes w(std::uint16_t value)
-{
-    Bytes bytes;
-    Iso::Byte_writer(bytes).u16(value);
-    return bytes;
-}
-
-inline Bytes d(std::uint32_t value)
-{
-    Bytes bytes;
-    Iso::Byte_writer(bytes).u32(value);
-    return bytes;
-}
-
-inline Bytes f(float value)
-{
-    Bytes bytes;
-    Iso::Byte_writer(bytes).f32(value);
-    return bytes;
-}
 
 inline Bytes at(std::uint16_t id, std::int16_t x, std::int16_t y)
 {
@@ -43,18 +21,6 @@ inline Bytes at(std::uint16_t id, std::int16_t x, std::int16_t y)
     out.u16(id);
     out.s16(x);
     out.s16(y);
-    return bytes;
-}
-
-inline void append(Bytes& bytes, int value) { bytes.push_back(static_cast<std::uint8_t>(value)); }
-inline void append(Bytes& bytes, const Bytes& more) { bytes.insert(bytes.end(), more.begin(), more.end()); }
-inline void append(Bytes& bytes, std::string_view text) { bytes.insert(bytes.end(), text.begin(), text.end()); }
-
-template <typename... Parts>
-Bytes join(const Parts&... parts)
-{
-    Bytes bytes;
-    (append(bytes, parts), ...);
     return bytes;
 }
 

@@ -21,37 +21,37 @@ struct Session
     Session(const Session&) = delete;
 
     /// What the terminal sends in answer to a message; empty if nothing.
-    records::Bytes ask(const records::Bytes& message)
+    Bytes ask(const Bytes& message)
     {
         sent.clear();
         terminal.receive(message.data(), message.size());
         EXPECT_LE(sent.size(), 1u);
-        return sent.empty() ? records::Bytes() : sent[0];
+        return sent.empty() ? Bytes() : sent[0];
     }
 
-    records::Bytes transfer(const records::Bytes& pool) { return ask(records::join(0x11, pool)); }
-    records::Bytes end() { return ask(records::join(0x12, records::repeat(7, 0xFF))); }
+    Bytes transfer(const Bytes& pool) { return ask(join(0x11, pool)); }
+    Bytes end() { return ask(join(0x12, records::repeat(7, 0xFF))); }
 
-    records::Bytes load(const records::Bytes& pool)
+    Bytes load(const Bytes& pool)
     {
         EXPECT_TRUE(transfer(pool).empty());
         return end();
     }
 
-    std::vector<records::Bytes> sent;
+    std::vector<Bytes> sent;
     terminal::Terminal terminal;
 };
 
 /// The beginning of a message, filled up to eight bytes.
 template <typename... Parts>
-records::Bytes message(const Parts&... parts)
+Bytes message(const Parts&... parts)
 {
-    records::Bytes bytes = records::join(parts...);
+    Bytes bytes = join(parts...);
     if (bytes.size() < Iso::frame_size)
         bytes.resize(Iso::frame_size, 0xFF);
     return bytes;
 }
 
-inline const records::Bytes accepted = message(0x12, 0, 0xFF, 0xFF, 0xFF, 0xFF, 0);
+inline const Bytes accepted = message(0x12, 0, 0xFF, 0xFF, 0xFF, 0xFF, 0);
 
 #endif

@@ -16,7 +16,7 @@ std::uint32_t next_random(std::uint32_t& state)
 
 TEST(Renderer, DrawsWhateverPoolTheTerminalAccepts)
 {
-    const records::Bytes original = records::complete_pool();
+    const Bytes original = records::complete_pool();
     Hardware hardware;
     hardware.mask_size = 50;
     hardware.soft_key_width = 20;
@@ -30,7 +30,7 @@ TEST(Renderer, DrawsWhateverPoolTheTerminalAccepts)
     unsigned drawn = 0;
     unsigned different = 0;
     for (int i = 0; i < 4000; ++i) {
-        records::Bytes pool = original;
+        Bytes pool = original;
         for (unsigned changes = 1 + next_random(random) % 4; changes > 0; --changes) {
             const std::size_t place = next_random(random) % pool.size();
             constexpr std::uint8_t nasty[] = {0x00, 0xFF, 0x7F, 0x80};

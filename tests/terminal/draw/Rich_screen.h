@@ -21,7 +21,7 @@ inline Pool_builder::Id add_rich_screen(Pool_builder& builder, int cover_top = 3
     const Id yellow = builder.fill_attributes(2, 14);
     const Id face = builder.fill_attributes(2, 223);
     const Id hatch = builder.fill_attributes(3, 0, builder.picture(8, 8, 8, 2, 1, 255, [] {
-        records::Bytes pixels;
+        Bytes pixels;
         for (int i = 0; i < 64; ++i)
             pixels.push_back(i / 8 == i % 8 ? 13 : i / 8 == 7 - i % 8 ? 3 : 255);
         return pixels;
@@ -76,7 +76,7 @@ inline Pool_builder::Id add_rich_screen(Pool_builder& builder, int cover_top = 3
     put(builder.button(90, 50, 7, 12, 1 | 2, {{caption, 0, 13}}), 104, 335);
     put(builder.button(90, 50, 7, 0, 16, {{caption, 0, 13}}), 200, 335);
 
-    records::Bytes stipple;
+    Bytes stipple;
     for (int i = 0; i < 32 * 32; ++i)
         stipple.push_back((i / 32 + i) % 2 == 0 ? 188 : 13);
     Id cover = builder.picture(32, 32, 32, 2, 1, 13, stipple);

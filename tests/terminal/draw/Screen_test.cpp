@@ -100,7 +100,7 @@ TEST_F(Screen, FollowsTheCommandsOfTheApplication)
     const Id mask = builder.mask(5, {{dot, 0, 0}});
     load(mask);
     EXPECT_EQ(screen().substr(0, 7), "\n#55555");
-    session.ask(message(0xA7, records::w(mask), 8));
+    session.ask(message(0xA7, w(mask), 8));
     EXPECT_EQ(screen().substr(0, 7), "\n#88888");
 }
 

@@ -8,7 +8,7 @@ namespace terminal {
 namespace {
 
 using Id = Pool_builder::Id;
-using records::Bytes;
+
 constexpr Id none = Pool_builder::none;
 
 /// A picture of two pixels in runs, with as many empty runs between them.

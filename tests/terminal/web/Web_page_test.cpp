@@ -74,7 +74,7 @@ class WebPage : public testing::Test
     {
         if (index == 2)
             throw std::runtime_error("the terminal refused it");
-        session.ask(message(0xAD, records::w(working_set), records::w(index == 0 ? red : blue)));
+        session.ask(message(0xAD, w(working_set), w(index == 0 ? red : blue)));
     }
 
     QImage drawn()

@@ -1,5 +1,5 @@
-#ifndef TESTS_POOL_BYTES_H
-#define TESTS_POOL_BYTES_H
+#ifndef TESTS_BYTES_H
+#define TESTS_BYTES_H
 
 #include "iso11783/Bytes.h"
 
@@ -8,7 +8,8 @@
 #include <string_view>
 #include <vector>
 
-/// Messages and records written by hand: a plain number is one byte, w() two, d() four; bytes and texts are themselves.
+/// Messages and records written by hand: a plain number is one byte, w() two, d() and f() four; bytes and texts are
+/// themselves.
 using Bytes = std::vector<std::uint8_t>;
 
 inline Bytes w(int value)
@@ -25,11 +26,18 @@ inline Bytes d(std::int64_t value)
     return bytes;
 }
 
+inline Bytes f(float value)
+{
+    Bytes bytes;
+    Iso::Byte_writer(bytes).f32(value);
+    return bytes;
+}
+
 inline void append(Bytes& bytes, int value) { bytes.push_back(static_cast<std::uint8_t>(value)); }
 inline void append(Bytes& bytes, const Bytes& more) { bytes.insert(bytes.end(), more.begin(), more.end()); }
 inline void append(Bytes& bytes, std::string_view text) { bytes.insert(bytes.end(), text.begin(), text.end()); }
 
-template <typename... Parts>
+template <class... Parts>
 Bytes join(const Parts&... parts)
 {
     Bytes bytes;
