@@ -86,8 +86,8 @@ class VTUI_EXPORT Pool final : public vtui_pool
     /// How many ids are given; one of an object that was destroyed counts.
     std::size_t size() const { return objects.size(); }
 
-    /// The records of all objects, prepared if they are not yet: what an .iop file contains. Replaces the contents of
-    /// `records`.
+    /// The records of all objects, prepared as by prepare(): what an .iop file contains. Replaces the contents of
+    /// `records`. Nothing counts as told to the terminal.
     Result serialise(std::vector<std::uint8_t>& records);
 
     /// Asks a terminal about itself, for laying out the screens before the pool is prepared. The terminal forgets what
@@ -96,9 +96,9 @@ class VTUI_EXPORT Pool final : public vtui_pool
     /// What the terminal said last about itself.
     const std::optional<VT_information>& information() const { return terminal_information; }
 
-    /// Loads all objects with their present values into the terminal; prepares those that are not yet. The pool is live
-    /// when the terminal has accepted it, and uses `terminal` from then on: until disconnect(), or until it is loaded
-    /// over another link. Also for loading once more when a link came back.
+    /// Prepares as prepare() does and loads all objects with their present values into the terminal. The pool is live
+    /// when the terminal has accepted it, and uses `terminal` from then on. Also for loading once more when a link came
+    /// back, or when there are new objects.
     Result load(Client::Terminal_link& terminal, const Progress& progress = {}, const Timeouts& timeouts = {});
 
     /// Tells the terminal that the application is alive; to be called once a second from load() on. False when the link
