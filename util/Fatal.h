@@ -7,8 +7,7 @@
 
 /// The endings that leave no way back. They work in every build type: nothing here goes through a macro that NDEBUG
 /// removes. Field service greps for the texts, so source and line are constants that do not move with the code.
-namespace Fatal
-{
+namespace Fatal {
 
 /// A failed assertion: the C library's message on standard error, then abort.
 [[noreturn]] VTUI_EXPORT void assertion(const char* condition, const char* source, unsigned line, const char* function);
