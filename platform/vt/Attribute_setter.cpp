@@ -92,12 +92,11 @@ void Attribute_setter::attribute(const Attribute_info& info, Attribute_string& s
     const std::string* const text = std::get_if<std::string>(value);
     if (!text)
         return refused(info, "takes a text");
-    if (text->size() > (string.buffer ? string.item_count : 0))
+    const std::size_t room = string.buffer ? string.item_count : 0;
+    if (text->size() > room)
         return refused(info, "is too short for that text");
-    if (string.buffer) {
-        std::fill_n(string.buffer, string.item_count, '\0');
-        text->copy(string.buffer, string.item_count);
-    }
+    std::fill_n(string.buffer, room, '\0');
+    text->copy(string.buffer, room);
     string.set_changed();
     done(info, 0);
 }
@@ -116,7 +115,7 @@ const Client::Specified_value* Attribute_changer::wanted(const Attribute_info& i
 bool Attribute_changer::done(const Attribute_info& info, std::uint32_t raw)
 {
     any_done = true;
-    return object.send_change_attribute(info.id, raw);
+    return object.tell_attribute(info.id, raw);
 }
 
 } // namespace VT

@@ -1,6 +1,6 @@
 #include "vt/Button_obj.h"
 
-#include "vt/Background_colour.h"
+#include "vt/Command.h"
 
 namespace VT {
 
@@ -8,18 +8,13 @@ namespace {
 constexpr std::uint8_t disabled = 16;
 }
 
-void Button_obj::set_background_colour(std::uint8_t colour)
-{
-    change_background_colour(*this, background_colour, colour);
-}
+void Button_obj::set_background_colour(std::uint8_t colour) { change_background_colour(background_colour, colour); }
 
 void Button_obj::set_enabled(bool enable)
 {
     options = static_cast<std::uint8_t>(enable ? options & ~disabled : options | disabled);
-    if (!is_live())
-        return;
-    Command(Iso::Function::enable_disable).u16(get_id()).u8(enable).send_to(*get_pool());
-    options.set_told();
+    if (tell(Command(Iso::Function::enable_disable).u16(get_id()).u8(enable)))
+        options.set_told();
 }
 
 void Button_obj::visit(Attribute_visitor& visitor)

@@ -9,10 +9,8 @@ namespace VT {
 void Container_obj::set_hidden(bool hide)
 {
     hidden = hide;
-    if (!is_live())
-        return;
-    Command(Iso::Function::hide_show).u16(get_id()).u8(!hide).send_to(*get_pool());
-    hidden.set_told();
+    if (tell(Command(Iso::Function::hide_show).u16(get_id()).u8(!hide)))
+        hidden.set_told();
 }
 
 void Container_obj::set_child_location(std::uint8_t index, std::int16_t x, std::int16_t y)
@@ -22,14 +20,13 @@ void Container_obj::set_child_location(std::uint8_t index, std::int16_t x, std::
     Attribute_object_placement& child = objects[index];
     child.x = x;
     child.y = y;
-    if (!is_live())
-        return;
     const auto same_child = [&](const Attribute_object_placement& other) { return other.object_id == child.object_id; };
     if (std::count_if(objects, objects + num_objects, same_child) > 1)
         return upload(true);
-    Command(Iso::Function::change_child_position).u16(get_id()).u16(child.object_id).s16(x).s16(y).send_to(*get_pool());
-    child.x.set_told();
-    child.y.set_told();
+    if (tell(Command(Iso::Function::change_child_position).u16(get_id()).u16(child.object_id).s16(x).s16(y))) {
+        child.x.set_told();
+        child.y.set_told();
+    }
 }
 
 void Container_obj::visit(Attribute_visitor& visitor)

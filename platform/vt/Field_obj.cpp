@@ -1,8 +1,5 @@
 #include "vt/Field_obj.h"
 
-#include "vt/Background_colour.h"
-#include "vt/Numeric_value.h"
-
 namespace VT {
 
 namespace {
@@ -22,10 +19,7 @@ void Field_obj::set_font_attributes(Iso::Object_id font) { change(font_info, fon
 
 void Field_obj::set_variable_reference(Iso::Object_id variable) { change(variable_info, variable_reference, variable); }
 
-void Field_obj::set_background_colour(std::uint8_t colour)
-{
-    change_background_colour(*this, background_colour, colour);
-}
+void Field_obj::set_background_colour(std::uint8_t colour) { change_background_colour(background_colour, colour); }
 
 void Field_obj::visit_field(Attribute_visitor& visitor, std::uint8_t all_options)
 {
@@ -52,7 +46,7 @@ Number_field_obj::Number_field_obj(Iso::Object_id id, const char* name, Iso::Obj
       number_of_decimals(decimals), format(number_format), value(raw), offset(raw_offset), scale(display_scale)
 {}
 
-void Number_field_obj::set_value(std::uint32_t raw) { change_numeric_value(*this, value, raw); }
+void Number_field_obj::set_value(std::uint32_t raw) { change_numeric_value(value, raw); }
 
 void Number_field_obj::visit_format(Attribute_visitor& visitor, std::uint8_t offset_id)
 {

@@ -1,7 +1,8 @@
 #ifndef VT_FONT_ATTRIBUTES_OBJ_H
 #define VT_FONT_ATTRIBUTES_OBJ_H
 
-#include "vt/Sized_obj.h"
+#include "vt/Lists.h"
+#include "vt/VT_obj.h"
 
 namespace VT {
 

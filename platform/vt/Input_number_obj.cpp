@@ -11,10 +11,8 @@ constexpr std::uint8_t enabled = 1;
 void Input_number_obj::set_enabled(bool enable)
 {
     options_2 = static_cast<std::uint8_t>(enable ? options_2 | enabled : options_2 & ~enabled);
-    if (!is_live())
-        return;
-    Command(Iso::Function::enable_disable).u16(get_id()).u8(enable).send_to(*get_pool());
-    options_2.set_told();
+    if (tell(Command(Iso::Function::enable_disable).u16(get_id()).u8(enable)))
+        options_2.set_told();
 }
 
 void Input_number_obj::visit(Attribute_visitor& visitor)

@@ -1,10 +1,8 @@
 #include "vt/Key_obj.h"
 
-#include "vt/Background_colour.h"
-
 namespace VT {
 
-void Key_obj::set_background_colour(std::uint8_t colour) { change_background_colour(*this, background_colour, colour); }
+void Key_obj::set_background_colour(std::uint8_t colour) { change_background_colour(background_colour, colour); }
 
 void Key_obj::visit(Attribute_visitor& visitor)
 {

@@ -1,6 +1,7 @@
 #ifndef VT_LINE_OBJ_H
 #define VT_LINE_OBJ_H
 
+#include "vt/Lists.h"
 #include "vt/Sized_obj.h"
 
 namespace VT {

@@ -1,16 +1,13 @@
 #include "vt/Mask_obj.h"
 
-#include "vt/Background_colour.h"
+#include "vt/Command.h"
 
 #include <algorithm>
 #include <limits>
 
 namespace VT {
 
-void Parent_obj::set_background_colour(std::uint8_t colour)
-{
-    change_background_colour(*this, background_colour, colour);
-}
+void Parent_obj::set_background_colour(std::uint8_t colour) { change_background_colour(background_colour, colour); }
 
 void Parent_obj::add_child(VT_obj& child, std::int16_t x, std::int16_t y)
 {
@@ -39,15 +36,9 @@ void Mask_obj::set_soft_key_mask(Soft_key_mask_obj* keys)
     if (get_id() == NULL_ID)
         return;
     soft_key_mask = id_of(keys);
-    if (!is_live())
-        return;
     const bool alarm = get_type() == Iso::Object_type::alarm_mask;
-    Command(Iso::Function::change_soft_key_mask)
-        .u8(alarm ? 2 : 1)
-        .u16(get_id())
-        .u16(soft_key_mask)
-        .send_to(*get_pool());
-    soft_key_mask.set_told();
+    if (tell(Command(Iso::Function::change_soft_key_mask).u8(alarm ? 2 : 1).u16(get_id()).u16(soft_key_mask)))
+        soft_key_mask.set_told();
 }
 
 void Soft_key_mask_obj::visit(Attribute_visitor& visitor)

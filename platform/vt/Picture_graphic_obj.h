@@ -1,7 +1,7 @@
 #ifndef VT_PICTURE_GRAPHIC_OBJ_H
 #define VT_PICTURE_GRAPHIC_OBJ_H
 
-#include "vt/Sized_obj.h"
+#include "vt/Lists.h"
 #include "vt/VT_obj.h"
 
 namespace VT {

@@ -123,12 +123,29 @@ bool VT_obj::change_attribute(const char* name, double value)
     return changer.is_done();
 }
 
-bool VT_obj::send_change_attribute(std::uint8_t attribute_id, std::uint32_t value)
+bool VT_obj::tell(const Command& command) const
 {
     if (!is_live())
         return false;
-    Command(Iso::Function::change_attribute).u16(get_id()).u8(attribute_id).u32(value).send_to(*get_pool());
+    command.send_to(*get_pool());
     return true;
+}
+
+void VT_obj::change_background_colour(Attribute_colour& attribute, std::uint8_t colour) const
+{
+    attribute = colour;
+    if (tell(Command(Iso::Function::change_background_colour).u16(get_id()).u8(colour)))
+        attribute.set_told();
+}
+
+bool VT_obj::tell_numeric_value(std::uint32_t value) const
+{
+    return tell(Command(Iso::Function::change_numeric_value).u16(get_id()).u8(0xFF).u32(value));
+}
+
+bool VT_obj::tell_attribute(std::uint8_t attribute_id, std::uint32_t value) const
+{
+    return tell(Command(Iso::Function::change_attribute).u16(get_id()).u8(attribute_id).u32(value));
 }
 
 std::uint8_t VT_obj::get_extended_type() const { return 0; }

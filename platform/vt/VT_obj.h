@@ -9,6 +9,8 @@
 
 namespace VT {
 
+class Command;
+
 /// An object of an ISO 11783-6 pool. Values are set before the pool exists and reach the terminal with it. Once the
 /// pool is live a value reaches the terminal by a change command (the operations that say so) or with the object's
 /// whole record (upload()). All sizes and positions are pixels.
@@ -58,20 +60,33 @@ class VTUI_EXPORT VT_obj : public Iso::Iso_object_base
 
     bool is_live() const { return get_pool() && get_pool()->is_live(); }
 
+    /// Sends a command if the pool is live. True if so: the terminal has been told what the command says.
+    bool tell(const Command& command) const;
+
+    /// Each sets an attribute and, if the pool is live, sends Change Background Colour or Change Numeric Value.
+    void change_background_colour(Attribute_colour& attribute, std::uint8_t colour) const;
+    template <typename T>
+    void change_numeric_value(Attribute<T>& attribute, T value) const
+    {
+        attribute = value;
+        if (tell_numeric_value(value))
+            attribute.set_told();
+    }
+
     /// Sets an attribute that has an id and sends Change Attribute if the pool is live.
     template <typename T>
     void change(const Attribute_info& info, Attribute<T>& attribute, T value)
     {
         attribute = value;
-        if (send_change_attribute(info.id, value))
+        if (tell_attribute(info.id, value))
             attribute.set_told();
     }
 
   private:
     friend class Attribute_changer;
 
-    /// True if the pool is live, so that the terminal has been told.
-    bool send_change_attribute(std::uint8_t attribute_id, std::uint32_t value);
+    bool tell_numeric_value(std::uint32_t value) const;
+    bool tell_attribute(std::uint8_t attribute_id, std::uint32_t value) const;
 };
 
 } // namespace VT

@@ -20,10 +20,8 @@ void Working_set_obj::set_active_mask(Mask_obj& mask)
     if (get_id() == NULL_ID)
         return;
     active_mask = id_of(&mask);
-    if (!is_live())
-        return;
-    Command(Iso::Function::change_active_mask).u16(get_id()).u16(active_mask).send_to(*get_pool());
-    active_mask.set_told();
+    if (tell(Command(Iso::Function::change_active_mask).u16(get_id()).u16(active_mask)))
+        active_mask.set_told();
 }
 
 void Working_set_obj::add_language(const char (&code)[3])

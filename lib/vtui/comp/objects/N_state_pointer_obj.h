@@ -2,6 +2,7 @@
 #define VTUI_COMP_N_STATE_POINTER_OBJ_H
 
 #include "vtui/comp/objects/Object_pointer_obj.h"
+
 #include <array>
 #include <cstddef>
 

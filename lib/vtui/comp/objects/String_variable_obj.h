@@ -3,6 +3,7 @@
 
 #include "vt/String_variable_obj.h"
 #include "vtui/comp/objects/Object.h"
+
 #include <algorithm>
 #include <cstdarg>
 #include <cstddef>
