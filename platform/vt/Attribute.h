@@ -5,7 +5,9 @@
 #include "iso11783/Object_type.h"
 
 #include <cstdint>
+#include <cstring>
 #include <iosfwd>
+#include <type_traits>
 
 namespace Iso {
 class Iso_object_base;
@@ -57,6 +59,19 @@ class VTUI_EXPORT Attribute
     bool changed() const { return is_changed; }
     /// The terminal has been told the value.
     void set_told() { is_changed = false; }
+
+    /// How Change Attribute carries the value: sign-extended, or the bits of the float.
+    std::uint32_t bits() const
+    {
+        if constexpr (std::is_floating_point_v<T>) {
+            static_assert(sizeof value == sizeof(std::uint32_t));
+            std::uint32_t result;
+            std::memcpy(&result, &value, sizeof result);
+            return result;
+        } else {
+            return static_cast<std::uint32_t>(value);
+        }
+    }
 
     void print(std::ostream& out, unsigned indent, const char* name) const;
 

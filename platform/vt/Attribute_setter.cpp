@@ -23,19 +23,6 @@ bool holds(const Attribute_info& info, double number)
     }
 }
 
-template <typename T>
-std::uint32_t raw_of(T value)
-{
-    if constexpr (std::is_floating_point_v<T>) {
-        std::uint32_t raw;
-        static_assert(sizeof raw == sizeof value);
-        std::memcpy(&raw, &value, sizeof raw);
-        return raw;
-    } else {
-        return static_cast<std::uint32_t>(value);
-    }
-}
-
 constexpr const char* not_a_number = "takes a number";
 constexpr const char* out_of_range = "cannot hold that value";
 
@@ -53,7 +40,7 @@ void Attribute_setter::set_number(const Attribute_info& info, Attribute<T>& attr
     if (!holds<T>(info, *number))
         return refused(info, out_of_range);
     attribute = static_cast<T>(*number);
-    if (done(info, raw_of<T>(attribute)))
+    if (done(info, attribute.bits()))
         attribute.set_told();
 }
 

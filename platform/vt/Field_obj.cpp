@@ -48,14 +48,28 @@ Number_field_obj::Number_field_obj(Iso::Object_id id, const char* name, Iso::Obj
 
 void Number_field_obj::set_value(std::uint32_t raw) { change_numeric_value(value, raw); }
 
-void Number_field_obj::visit_format(Attribute_visitor& visitor, std::uint8_t offset_id)
+void Number_field_obj::set_offset(std::int32_t raw) { change({"offset", format_id(0)}, offset, raw); }
+
+void Number_field_obj::set_scale(float display_units) { change({"scale", format_id(1)}, scale, display_units); }
+
+void Number_field_obj::set_number_of_decimals(std::uint8_t decimals)
 {
-    const auto id = [&](unsigned step) { return static_cast<std::uint8_t>(offset_id + step); };
-    visitor.attribute({"offset", id(0)}, offset);
-    visitor.attribute({"scale", id(1)}, scale);
-    visitor.attribute(Attribute_info::ranged("number_of_decimals", id(2), 7), number_of_decimals);
-    visitor.attribute(Attribute_info::ranged("format", id(3), 1), format);
-    visit_justification(visitor, id(4));
+    change({"number_of_decimals", format_id(2)}, number_of_decimals, decimals);
+}
+
+/// Offset to justification carry ids in a row; an input number has those of its limits before them.
+std::uint8_t Number_field_obj::format_id(unsigned place) const
+{
+    return static_cast<std::uint8_t>((get_type() == Iso::Object_type::input_number ? 9 : 7) + place);
+}
+
+void Number_field_obj::visit_format(Attribute_visitor& visitor)
+{
+    visitor.attribute({"offset", format_id(0)}, offset);
+    visitor.attribute({"scale", format_id(1)}, scale);
+    visitor.attribute(Attribute_info::ranged("number_of_decimals", format_id(2), 7), number_of_decimals);
+    visitor.attribute(Attribute_info::ranged("format", format_id(3), 1), format);
+    visit_justification(visitor, format_id(4));
 }
 
 } // namespace VT

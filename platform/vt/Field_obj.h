@@ -45,6 +45,10 @@ class VTUI_EXPORT Number_field_obj : public Field_obj
 
     /// Sets the raw value; sends Change Numeric Value if the pool is live.
     void set_value(std::uint32_t raw);
+    /// Each sends Change Attribute if the pool is live.
+    void set_offset(std::int32_t raw);
+    void set_scale(float display_units);
+    void set_number_of_decimals(std::uint8_t decimals); ///< 0 to 7
 
   protected:
     Number_field_obj(Iso::Object_id id, const char* name, Iso::Object_type type, std::uint16_t width,
@@ -53,8 +57,10 @@ class VTUI_EXPORT Number_field_obj : public Field_obj
                      float scale, std::uint8_t number_of_decimals, std::uint8_t format, std::uint8_t justification,
                      std::uint8_t num_macros, const Macro_reference* macros);
 
-    /// Offset to justification carry ids in a row, the offset's first.
-    void visit_format(Attribute_visitor& visitor, std::uint8_t offset_id);
+    void visit_format(Attribute_visitor& visitor);
+
+  private:
+    std::uint8_t format_id(unsigned place) const;
 };
 
 } // namespace VT

@@ -28,6 +28,9 @@ class VTUI_EXPORT Input_number_obj : public Number_field_obj
 
     /// Lets the operator edit the number or not; sends Enable/Disable if the pool is live.
     void set_enabled(bool enable);
+    /// Each sends Change Attribute if the pool is live.
+    void set_min_value(std::uint32_t raw);
+    void set_max_value(std::uint32_t raw);
 
     void visit(Attribute_visitor& visitor) override;
 };

@@ -6,7 +6,7 @@ void Output_number_obj::visit(Attribute_visitor& visitor)
 {
     visit_field(visitor, 15);
     visitor.attribute({"value"}, value);
-    visit_format(visitor, 7);
+    visit_format(visitor);
     visit_macros(visitor);
 }
 

@@ -96,15 +96,15 @@ VT_obj::~VT_obj()
 
 void VT_obj::upload(bool always)
 {
-    if (!is_live())
-        return;
-    if (!always) {
-        Change_finder change;
-        visit(change);
-        if (!change.found)
-            return;
-    }
-    get_pool()->upload(*this);
+    if (is_live() && (always || is_changed()))
+        get_pool()->upload(*this);
+}
+
+bool VT_obj::is_changed()
+{
+    Change_finder change;
+    visit(change);
+    return change.found;
 }
 
 Iso::Object_id VT_obj::id_of(const VT_obj* target) const

@@ -22,9 +22,11 @@ class VTUI_EXPORT VT_obj : public Iso::Iso_object_base
     std::uint16_t get_width() const { return _get_width(); }
     std::uint16_t get_height() const { return _get_height(); }
 
-    /// Sends the object's whole record if the pool is live: always, or only if something in it differs from what the
-    /// terminal was told last.
+    /// Sends the object's whole record if the pool is live: always, or only if something in it has changed. With it go
+    /// the records, as far as they have changed, of all that the object can show; the terminal takes in all at once.
     void upload(bool always);
+    /// True if something in the record differs from what the terminal was told last.
+    bool is_changed();
 
     /// Sets an attribute by its name and, if the pool is live, sends Change Attribute. False, and nothing changed, when
     /// the class has no such attribute, the standard gives it no id, or the value is out of its range.
@@ -73,12 +75,13 @@ class VTUI_EXPORT VT_obj : public Iso::Iso_object_base
             attribute.set_told();
     }
 
-    /// Sets an attribute that has an id and sends Change Attribute if the pool is live.
+    /// Sets an attribute that has an id and sends Change Attribute if the pool is live and the terminal has another
+    /// value.
     template <typename T>
     void change(const Attribute_info& info, Attribute<T>& attribute, T value)
     {
         attribute = value;
-        if (tell_attribute(info.id, value))
+        if (attribute.changed() && tell_attribute(info.id, attribute.bits()))
             attribute.set_told();
     }
 

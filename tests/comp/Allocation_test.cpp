@@ -138,7 +138,7 @@ TEST_F(Allocation, IsNotNeededToLink)
         rectangle.set_fill(&fill);
         rectangle.set_line(&line);
         polygon.set_fill(&fill);
-        polygon.set_line(nullptr);
+        polygon.set_line(&line);
         stroke.set_line(&line);
         fill.set_pattern(&picture);
         output.set_font(&font);
