@@ -19,5 +19,7 @@ function(vtui_target target)
     endif()
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow)
+    # A fused multiply-add rounds once instead of twice: numbers must not depend on the processor.
+    target_compile_options(${target} PRIVATE -ffp-contract=off)
     set_target_properties(${target} PROPERTIES COMPILE_WARNING_AS_ERROR ${PROJECT_IS_TOP_LEVEL})
 endfunction()
