@@ -24,6 +24,9 @@ class Object_table
     /// True if the object of that id stands in place `first` or behind it.
     bool is_from(std::size_t first, Iso::Object_id id) const { return is_taken(id) && places[id] >= first; }
 
+    /// One more than the largest id given.
+    std::size_t ids() const { return places.size(); }
+
     /// The number of places; some may be empty.
     std::size_t size() const { return objects.size(); }
     /// Null where an object was removed.

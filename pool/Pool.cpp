@@ -8,12 +8,14 @@
 #include "pool/Preparation.h"
 #include "pool/Record_writer.h"
 #include "pool/Scaling.h"
+#include "units/Units_man.h"
 #include "vt/Input_number_obj.h"
 #include "vt/Output_string_obj.h"
 
 #include <algorithm>
 #include <cstring>
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 namespace VT {
@@ -35,17 +37,16 @@ class Listening
 
 } // namespace
 
-Pool::Pool() = default;
+Pool::Pool() : kinds(std::make_unique<Kinds>()) {}
 
 Pool::~Pool()
 {
     // Another pool must not find this one's ids: not in links that have been cleared since, nor in lists.
-    Kinds kinds;
     for (std::size_t place = 0; place < objects.size(); ++place) {
         if (!objects[place])
             continue;
         VT_obj& object = *objects[place];
-        const Kind& kind = kinds.of(object);
+        const Kind& kind = kinds->of(object);
         for_each_link(kind, object, [this](const VT_obj*, Attribute_object_id_spec& attribute) {
             if (objects.is_taken(attribute))
                 attribute = Iso::null_id;
@@ -83,8 +84,7 @@ Result Pool::prepare()
     Result result;
     const Listening listening(preparing, result);
     std::vector<Problem>& errors = result.errors;
-    Kinds kinds;
-    Preparation run(*this, objects, kinds, errors);
+    Preparation run(*this, objects, *kinds, errors);
 
     run.collect(added);
     if (errors.empty())
@@ -107,8 +107,10 @@ Result Pool::prepare()
         return result;
     }
     added.clear();
-    if (run.found_any())
+    if (run.found_any()) {
         live = false;
+        routes.find_controls(objects);
+    }
     return result;
 }
 
@@ -162,8 +164,10 @@ Result Pool::ask_hardware(Client::Terminal_link& terminal, std::chrono::millisec
     Result result;
     Dialogue dialogue(terminal, result.errors);
     VT_information answer{};
-    if (dialogue.begin() && dialogue.ask_hardware(answer, timeout))
+    if (dialogue.begin() && dialogue.ask_hardware(answer, timeout)) {
         terminal_information = answer;
+        routes.deliver_to_all(&answer);
+    }
     return result;
 }
 
@@ -181,6 +185,7 @@ Result Pool::load(Client::Terminal_link& terminal, const Progress& progress, con
     Record_writer writer(records, Record_writer::Reader::terminal);
     write_records(writer);
     message.reserve(largest_record + Iso::frame_size);
+    looked_at.reserve(objects.ids());
 
     Dialogue dialogue(terminal, result.errors);
     End_of_object_pool_response response{};
@@ -213,24 +218,49 @@ bool Pool::maintain()
 Terminal_message Pool::receive(const std::uint8_t* received, std::size_t size)
 {
     Terminal_message decoded = decode(received, size);
-    if (const auto* const entered = std::get_if<VT_change_numeric_value_event>(&decoded)) {
-        auto* const input = dynamic_cast<Input_number_obj*>(find_object(entered->object_id));
+    take_note(decoded);
+    if (!routes.are_found())
+        routes.find_controls(objects);
+    std::visit(
+        [this](auto& received_event) {
+            if constexpr (std::is_same_v<decltype(received_event), VT_information&>)
+                routes.deliver_to_all(&received_event);
+            else if constexpr (std::is_constructible_v<Event, decltype(&received_event)>)
+                if (find_object(received_event.object_id)) // what was destroyed took its component with it
+                    routes.deliver(received_event.object_id, &received_event);
+        },
+        decoded);
+    return decoded;
+}
+
+void Pool::take_note(const Terminal_message& received)
+{
+    if (const auto* const entered = std::get_if<VT_change_numeric_value_event>(&received)) {
+        VT_obj* const object = find_object(entered->object_id);
+        if (!object || object->get_type() != Iso::Object_type::input_number)
+            return;
+        auto* const input = dynamic_cast<Input_number_obj*>(object);
         if (input && input->variable_reference == Iso::null_id) {
             input->value = entered->value;
             input->value.set_told(); // the terminal shows it already
         }
-    } else if (const auto* const response = std::get_if<Command_response>(&decoded)) {
+    } else if (const auto* const response = std::get_if<Command_response>(&received)) {
         if (response->error)
             note(problem(Error::rejected_command, response->object_id,
                          "The terminal refused " + name_of(response->function) + " of " + mention(response->object_id) +
                              " with error bits " + std::to_string(response->error)));
-    } else if (const auto* const unknown = std::get_if<Unsupported_function_response>(&decoded)) {
+    } else if (const auto* const unknown = std::get_if<Unsupported_function_response>(&received)) {
         note({Error::rejected_command, Iso::null_id, "", "The terminal does not know " + name_of(unknown->function)});
-    } else if (const auto* const judgement = std::get_if<End_of_object_pool_response>(&decoded)) {
+    } else if (const auto* const judgement = std::get_if<End_of_object_pool_response>(&received)) {
         if (!judgement->accepted)
             note(rejection(*judgement));
     }
-    return decoded;
+}
+
+void Pool::announce(Units_man& units)
+{
+    units.write_texts(*this);
+    routes.deliver_to_all(&units);
 }
 
 std::vector<Problem> Pool::take_problems() { return std::exchange(problems, {}); }
@@ -255,10 +285,32 @@ void Pool::send(const std::uint8_t* head, std::size_t head_size, const void* tai
 
 void Pool::upload(VT_obj& object)
 {
+    looked_at.assign(objects.ids(), false);
+    if (send_changes_below(object) && send_record(object) && !send_frame(*link, Iso::Function::end_of_object_pool))
+        lose_link("the record of " + describe(object));
+}
+
+/// Everything at once: the terminal must not show a number in its new place with its old units.
+bool Pool::send_changes_below(VT_obj& object)
+{
+    looked_at[object.get_id()] = true;
+    bool sent = true;
+    for_each_reachable(kinds->of(object), object, [&](VT_obj* shown) {
+        if (!sent || !shown || objects.find(shown->get_id()) != shown || looked_at[shown->get_id()])
+            return;
+        sent = send_changes_below(*shown) && (!shown->is_changed() || send_record(*shown));
+    });
+    return sent;
+}
+
+bool Pool::send_record(VT_obj& object)
+{
     message.assign(1, 0); // see transfer_records()
     const std::size_t size = Record_writer(message, Record_writer::Reader::terminal).write(object);
-    if (transfer_records(*link, message, {}) != size || !send_frame(*link, Iso::Function::end_of_object_pool))
-        lose_link("the record of " + describe(object));
+    if (transfer_records(*link, message, {}) == size)
+        return true;
+    lose_link("the record of " + describe(object));
+    return false;
 }
 
 void Pool::set_string(Output_string_obj& object, const char* text)
@@ -285,6 +337,19 @@ void Pool::forget(const VT_obj& object)
 {
     if (objects.find(object.get_id()) == &object)
         objects.remove(object.get_id());
+}
+
+String_variable_obj* Pool::find_text(const char* name)
+{
+    const auto found = std::find_if(texts.begin(), texts.end(), [name](const Text& text) {
+        return std::strcmp(text.object.get_name(), name) == 0;
+    });
+    return found != texts.end() ? &found->object : nullptr;
+}
+
+String_variable_obj& Pool::make_text(const char* name, std::uint16_t length)
+{
+    return texts.emplace_back(name, length).object;
 }
 
 /// A controller runs for years: nothing may pile up.

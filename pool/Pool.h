@@ -3,9 +3,11 @@
 
 #include "pool/Object_table.h"
 #include "pool/Result.h"
+#include "pool/Routes.h"
 #include "pool/Specification.h"
 #include "pool/Terminal_message.h"
 #include "vt/Resolve_colour.h"
+#include "vt/String_variable_obj.h"
 #include "vt/Terminal_link.h"
 #include "vt/VT_obj.h"
 #include "vt/vtui_pool.h"
@@ -13,13 +15,16 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace VT {
 
+class Kinds;
 class Preparation;
 class Record_writer;
 
@@ -83,6 +88,32 @@ class VTUI_EXPORT Pool final : public vtui_pool
     /// their objects already.
     Result prepare();
 
+    /// Gives events to `component` from receive() on, to each of its operations handle_event() for which there is an
+    /// event: those that name a control inside the component (an object in its memory; of components inside each other
+    /// the innermost), what the terminal says of itself, and announced units. The component stays the application's and
+    /// is routed until unroute(), which comes before it is destroyed.
+    ///
+    ///     pool.route(speed);               // Number_widget::handle_event(VT_change_numeric_value_event&) and others
+    ///     pool.route(page, *page.buttons); // a control that the page keeps elsewhere
+    template <class Component>
+    void route(Component& component)
+    {
+        routes.add(component);
+    }
+    template <class Component>
+    void route(Component& component, const VT_obj& control)
+    {
+        routes.add(component, control);
+    }
+    template <class Component>
+    void unroute(Component& component)
+    {
+        routes.remove(component);
+    }
+
+    /// Systems of units have been chosen: brings the units texts up to date, then all routed components.
+    void announce(Units_man& units);
+
     /// How many ids are given; one of an object that was destroyed counts.
     std::size_t size() const { return objects.size(); }
 
@@ -90,8 +121,8 @@ class VTUI_EXPORT Pool final : public vtui_pool
     /// `records`. Nothing counts as told to the terminal.
     Result serialise(std::vector<std::uint8_t>& records);
 
-    /// Asks a terminal about itself, for laying out the screens before the pool is prepared. The terminal forgets what
-    /// it knew of this working set.
+    /// Asks a terminal about itself, for laying out the screens before the pool is prepared; routed components hear the
+    /// answer. The terminal forgets what it knew of this working set.
     Result ask_hardware(Client::Terminal_link& terminal, std::chrono::milliseconds timeout = Timeouts().answer);
     /// What the terminal said last about itself.
     const std::optional<VT_information>& information() const { return terminal_information; }
@@ -105,8 +136,9 @@ class VTUI_EXPORT Pool final : public vtui_pool
     /// refuses it.
     bool maintain();
 
-    /// Takes a message that the terminal sent while the pool is live and says what it is. Numbers that the operator
-    /// entered are noted in their objects, refused commands and records among the problems.
+    /// Takes a message that the terminal sent while the pool is live, gives it to the component that it concerns, and
+    /// says what it is. Numbers that the operator entered are noted in their objects, refused commands and records
+    /// among the problems. What a component throws comes out here.
     Terminal_message receive(const std::uint8_t* message, std::size_t size);
 
     /// What went wrong since the last call, oldest first: commands and records that the terminal refused, a link that
@@ -127,8 +159,24 @@ class VTUI_EXPORT Pool final : public vtui_pool
     void set_string(Output_string_obj& object, const char* text) override;
     void report(const Iso::Iso_object_base& object, const char* attribute, const char* what) override;
     void forget(const VT_obj& object) override;
+    String_variable_obj* find_text(const char* name) override;
+    String_variable_obj& make_text(const char* name, std::uint16_t length) override;
 
   private:
+    /// A text that the pool owns.
+    struct Text
+    {
+        Text(const char* name, std::uint16_t length)
+            : buffer(length, ' '), object(Iso::null_id, name, length, buffer.data())
+        {}
+
+        std::string buffer;
+        String_variable_obj object;
+    };
+
+    void take_note(const Terminal_message& received);
+    bool send_record(VT_obj& object);
+    bool send_changes_below(VT_obj& object);
     void scale_new(const Preparation& run, Result& result);
     void write_records(Record_writer& writer);
     void note(Problem&& problem);
@@ -137,8 +185,11 @@ class VTUI_EXPORT Pool final : public vtui_pool
     Problem rejection(const End_of_object_pool_response& response) const;
     void lose_link(const std::string& refused);
 
+    std::deque<Text> texts;
     std::vector<VT_obj*> added; ///< since the last prepare()
     Object_table objects;
+    std::unique_ptr<Kinds> kinds;
+    Routes routes;
     std::size_t scaled{0}; ///< places before this one are laid out for a mask of the size below
     std::uint16_t scaled_width{0};
     std::uint16_t scaled_height{0};
@@ -155,6 +206,7 @@ class VTUI_EXPORT Pool final : public vtui_pool
     bool live{false};
     std::size_t largest_record{0};
     std::vector<std::uint8_t> message; ///< has room for every message of a live pool
+    std::vector<bool> looked_at;       ///< by object id, while records are uploaded
 };
 
 } // namespace VT

@@ -2,6 +2,7 @@
 #define TESTS_FAKE_POOL_H
 
 #include "vt/Output_string_obj.h"
+#include "vt/String_variable_obj.h"
 #include "vt/vtui_pool.h"
 
 #include <initializer_list>
@@ -127,6 +128,28 @@ class Fake_pool : public VT::vtui_pool
     }
 
     void add(VT::VT_obj& object) override { added.push_back(&object); }
+
+    VT::String_variable_obj* find_text(const char* name) override
+    {
+        const auto found = texts.find(name);
+        return found == texts.end() ? nullptr : &found->second.object;
+    }
+
+    VT::String_variable_obj& make_text(const char* name, std::uint16_t length) override
+    {
+        return texts.try_emplace(name, name, length).first->second.object;
+    }
+
+    struct Text
+    {
+        Text(const char* name, std::uint16_t length)
+            : buffer(length, ' '), object(VT::VT_obj::NULL_ID, name, length, buffer.data())
+        {}
+
+        std::string buffer;
+        VT::String_variable_obj object;
+    };
+    std::map<std::string, Text> texts; ///< by name
 
   private:
     /// The terminal has been told all of a record.

@@ -33,14 +33,14 @@ struct VT_change_numeric_value_event
     std::uint32_t value;      ///< raw units
 };
 
-/// What a terminal says about itself.
+/// What a terminal says about itself: its answer to Get Hardware, field by field.
 struct VT_information
 {
-    std::uint8_t boot_time;    ///< seconds until it is ready; 255 if it does not say
-    std::uint8_t graphic_mode; ///< 0 two colours, 1 sixteen, 2 two hundred and fifty-six
-    std::uint8_t hardware;     ///< its options, a bit each
-    std::uint16_t mask_width;  ///< pixels
-    std::uint16_t mask_height; ///< pixels
+    std::uint8_t boot_time;    ///< byte 1: seconds until it is ready; 255 if it does not say
+    std::uint32_t code;        ///< byte 2, the kind of graphics: 0 two colours, 1 sixteen, 2 256; others a maker's own
+    std::uint8_t options;      ///< byte 3, the hardware: bit 0 a touch screen, bit 1 a pointing device
+    std::uint16_t mask_width;  ///< bytes 4 and 5: pixels
+    std::uint16_t mask_height; ///< bytes 6 and 7: pixels
 };
 
 } // namespace VT

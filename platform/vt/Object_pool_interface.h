@@ -50,7 +50,8 @@ class VTUI_EXPORT Object_pool_interface
     /// live.
     virtual void send(const std::uint8_t* head, std::size_t head_size, const void* tail, std::size_t tail_size) = 0;
 
-    /// Sends the whole record of one of its objects again. Called only while the pool is live.
+    /// Sends the whole record of one of its objects again, and the changed ones of what it shows. Called only while the
+    /// pool is live.
     virtual void upload(VT_obj& object) = 0;
 
     /// Gives `object` a value buffer of its item count, filled with `text` and spaces.

@@ -16,6 +16,8 @@ class VTUI_EXPORT String_variable_obj : public VT_obj
 
     Attribute_string value;
 
+    /// The characters that the terminal reserves.
+    std::uint16_t get_length() const { return value.item_count; }
     /// The number of characters of the text: up to the first NUL or the whole length.
     std::uint16_t num_chars() const { return value.num_chars(); }
 

@@ -57,8 +57,8 @@ TEST(PoolLoading, SaysExactlyThis)
     EXPECT_EQ(screen.pool.information()->mask_width, 480);
     EXPECT_EQ(screen.pool.information()->mask_height, 480);
     EXPECT_EQ(screen.pool.information()->boot_time, 255);
-    EXPECT_EQ(screen.pool.information()->graphic_mode, 2);
-    EXPECT_EQ(screen.pool.information()->hardware, 3);
+    EXPECT_EQ(screen.pool.information()->code, 2U);
+    EXPECT_EQ(screen.pool.information()->options, 3);
 }
 
 TEST(PoolLoading, AsksForTheHardwareAlone)

@@ -50,8 +50,8 @@ TEST(TerminalMessage, Answers)
 {
     const auto hardware = decoded<VT::VT_information>(frame(0xC7, 9, 1, 2, w(480), w(320)));
     EXPECT_EQ(hardware.boot_time, 9);
-    EXPECT_EQ(hardware.graphic_mode, 1);
-    EXPECT_EQ(hardware.hardware, 2);
+    EXPECT_EQ(hardware.code, 1U);
+    EXPECT_EQ(hardware.options, 2);
     EXPECT_EQ(hardware.mask_width, 480);
     EXPECT_EQ(hardware.mask_height, 320);
     const auto memory = decoded<VT::Memory_response>(frame(0xC0, 4, 1));
