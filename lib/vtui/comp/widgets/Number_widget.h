@@ -46,7 +46,9 @@ class VTUI_EXPORT Number_widget : public Widget
         bool input{false}; ///< the operator may enter a number
     };
 
-    /// The number in one system of units.
+    /// The number in one system of units. The terminal holds an entry within the limits in display units; set_value()
+    /// holds its argument within the same numbers in engineering units, before the factor. Where a system has a factor,
+    /// give limits that suit both, or the value is cut when that system is shown.
     struct Specification
     {
         Units_man::units_type units_type{Units_man::none};
