@@ -11,6 +11,7 @@ using Type = Iso::Object_type;
 
 Pool_fault Live_pool::load(std::vector<std::uint8_t> records, std::size_t memory)
 {
+    const std::size_t uploaded = records.size();
     Object_pool candidate;
     if (const Pool_fault fault = candidate.parse(std::move(records)))
         return fault;
@@ -25,6 +26,7 @@ Pool_fault Live_pool::load(std::vector<std::uint8_t> records, std::size_t memory
 
     pool = std::move(candidate);
     nesting = std::move(measures);
+    last_upload = uploaded;
     pool.for_each([this](Object object) {
         if (object.is(Type::working_set))
             working_set_id = object.id();

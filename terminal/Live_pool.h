@@ -20,6 +20,8 @@ class Live_pool
     /// takes more than `memory` bytes, the pool stays as it was.
     Pool_fault load(std::vector<std::uint8_t> records, std::size_t memory);
     void clear();
+    /// Whether the object came with the last upload that was taken.
+    bool was_uploaded_last(Object object) const { return pool.offset(object) < last_upload; }
 
     const Object_pool& objects() const { return pool; }
     Object working_set() const { return pool.find(working_set_id); }
@@ -41,6 +43,7 @@ class Live_pool
     Object_pool pool;
     Nesting nesting; ///< the measures of `pool`
     Iso::Object_id working_set_id = Iso::null_id;
+    std::size_t last_upload = 0; ///< bytes, with which `pool` begins
     std::uint32_t n_changes = 0;
 };
 

@@ -3,6 +3,7 @@
 
 #include "iso11783/Bytes.h"
 #include "iso11783/Object_type.h"
+#include "terminal/Area.h"
 #include "terminal/Record_layout.h"
 
 #include <cstddef>
@@ -196,6 +197,13 @@ class Object
 
     const std::uint8_t* record = nullptr;
 };
+
+/// The area of an object that has a width and a height, its top left corner at the origin. A check box is a square.
+inline Area box_of(Object object)
+{
+    const int width = object.u16(Field::width);
+    return {0, 0, width, object.is(Iso::Object_type::input_boolean) ? width : object.u16(Field::height)};
+}
 
 /// The length of the record that starts at `bytes` and is of this layout; 0 if it does not end within `available`.
 std::size_t record_size(const Record_layout& layout, const std::uint8_t* bytes, std::size_t available);

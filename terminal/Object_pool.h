@@ -37,7 +37,7 @@ class Object_pool
     /// judged (complete, of a known type, each id once); what they say is the matter of check_pool().
     Pool_fault parse(std::vector<std::uint8_t> records);
 
-    /// Adds the objects of `older` whose ids are not taken here.
+    /// Adds the objects of `older` whose ids are not taken here, behind the records that are here.
     void keep_others_of(const Object_pool& older);
 
     bool empty() const { return bytes.empty(); }
@@ -48,6 +48,9 @@ class Object_pool
 
     /// The object, or an empty one if the pool has none of that id (as it has none of the null id).
     Object find(Iso::Object_id id) const { return has(id) ? Object(bytes.data() + index[id]) : Object(); }
+
+    /// Where the record of an object of this pool starts.
+    std::size_t offset(Object object) const { return static_cast<std::size_t>(object.data() - bytes.data()); }
 
     /// Calls `visit(Object)` for every object in the order of ids.
     template <typename Visit>

@@ -2,6 +2,9 @@
 
 #include "iso11783/Bytes.h"
 #include "terminal/Control.h"
+#include "terminal/Indirection.h"
+#include "terminal/Screen_layout.h"
+#include "terminal/Touch.h"
 
 #include <algorithm>
 #include <utility>
@@ -35,6 +38,13 @@ Terminal::Terminal(const Hardware& own_properties, Send send_message)
 
 void Terminal::receive(const std::uint8_t* message, std::size_t count)
 {
+    take(message, count);
+    if (entry_is_void())
+        close_entry();
+}
+
+void Terminal::take(const std::uint8_t* message, std::size_t count)
+{
     if (count == 0)
         return;
     switch (static_cast<Function>(message[0])) {
@@ -63,9 +73,10 @@ void Terminal::receive(const std::uint8_t* message, std::size_t count)
     case Function::get_hardware: {
         constexpr std::uint8_t colours_256 = 2;
         constexpr std::uint8_t touch_and_pointer = 0x03;
+        const std::uint8_t by_finger = properties.touch ? touch_and_pointer : 0;
         const std::uint16_t size = properties.mask_size;
-        return answer(Function::get_hardware, {properties.boot_time, colours_256, touch_and_pointer, low(size),
-                                               high(size), low(size), high(size)});
+        return answer(Function::get_hardware,
+                      {properties.boot_time, colours_256, by_finger, low(size), high(size), low(size), high(size)});
     }
     case Function::working_set_maintenance:
         if (count >= 2 && (message[1] & 1) != 0)
@@ -78,8 +89,7 @@ void Terminal::receive(const std::uint8_t* message, std::size_t count)
     if (const Command* const command = find_command(message[0])) {
         if (count < command->size)
             return;
-        const Frame result = command->run(live, message, count);
-        return send(result.data(), result.size());
+        return tell(command->run(live, message, count));
     }
     constexpr std::uint8_t last_event = 0x0F;
     if (message[0] > last_event)
@@ -91,13 +101,10 @@ void Terminal::disconnect()
     upload = {};
     upload_overflow = false;
     live.clear();
+    set_opened({});
 }
 
-void Terminal::answer(Function function, std::initializer_list<std::uint8_t> rest)
-{
-    const Frame message = frame(function, rest);
-    send(message.data(), message.size());
-}
+void Terminal::answer(Function function, std::initializer_list<std::uint8_t> rest) { tell(frame(function, rest)); }
 
 void Terminal::transfer(const std::uint8_t* records, std::size_t count)
 {
@@ -116,10 +123,14 @@ void Terminal::end_of_pool()
         fault = live.load(std::move(upload), properties.memory);
     upload = {};
     upload_overflow = false;
+    const Object open_field = pool().find(opened.number);
+    const bool replaced = !fault && open_field && live.was_uploaded_last(open_field);
     if (fault && pool().empty())
         fault.code |= Pool_fault::pool_deleted;
     answer(Function::end_of_object_pool, {fault ? std::uint8_t{1} : std::uint8_t{0}, low(fault.parent),
                                           high(fault.parent), low(fault.object), high(fault.object), fault.code});
+    if (replaced)
+        close_entry();
 }
 
 Object Terminal::active_mask() const
@@ -143,25 +154,29 @@ Frame Terminal::status(std::uint8_t working_set_address) const
                  {working_set_address, low(mask), high(mask), low(keys), high(keys), not_busy});
 }
 
-bool Terminal::activate(Function function, Object object, Iso::Activation activation)
+Frame Terminal::activation(Function function, Object object, Iso::Activation activation) const
 {
     const Iso::Object_id mask = id_of(active_mask());
-    answer(function, {static_cast<std::uint8_t>(activation), low(object.id()), high(object.id()), low(mask), high(mask),
-                      object.u8(Field::key_code)});
+    return frame(function, {static_cast<std::uint8_t>(activation), low(object.id()), high(object.id()), low(mask),
+                            high(mask), object.u8(Field::key_code)});
+}
+
+bool Terminal::use_key(Iso::Object_id id, Iso::Activation change)
+{
+    const Object key = pool().find(id);
+    if (!key || !key.is(Type::key))
+        return false;
+    tell(activation(Function::soft_key_activation, key, change));
     return true;
 }
 
-bool Terminal::use_key(Iso::Object_id id, Iso::Activation activation)
-{
-    const Object key = pool().find(id);
-    return key && key.is(Type::key) && activate(Function::soft_key_activation, key, activation);
-}
-
-bool Terminal::use_button(Iso::Object_id id, Iso::Activation activation)
+bool Terminal::use_button(Iso::Object_id id, Iso::Activation change)
 {
     const Object button = pool().find(id);
-    return button && button.is(Type::button) && is_enabled(button) &&
-           activate(Function::button_activation, button, activation);
+    if (!button || !button.is(Type::button) || !is_enabled(button))
+        return false;
+    tell(activation(Function::button_activation, button, change));
+    return true;
 }
 
 bool Terminal::select_input(Iso::Object_id id, bool selected, bool open_for_input)
@@ -169,6 +184,13 @@ bool Terminal::select_input(Iso::Object_id id, bool selected, bool open_for_inpu
     const Object input = pool().find(id);
     if (!input || !enable_bit(input) || input.is(Type::button))
         return false;
+    if (selected && open_for_input && input.is(Type::input_number) && is_enabled(input)) {
+        if (opened.number != id)
+            close_entry();
+        set_opened({id, id_of(active_mask()), number_format(input)});
+    } else if (opened.number == id) {
+        set_opened({});
+    }
     answer(Function::select_input_object, {low(id), high(id), selected, open_for_input});
     return true;
 }
@@ -178,8 +200,7 @@ bool Terminal::enter_number(Iso::Object_id id, std::uint32_t value)
     const Object input = pool().find(id);
     if (!input || !is_enabled(input) || !may_enter(input, value))
         return false;
-    const Object variable = pool().find(input.reference(Field::variable));
-    if (!live.set(variable ? variable : input, Field::value, value))
+    if (!live.set(holder(pool(), input), Field::value, value))
         return false;
     answer(Function::input_numeric_value,
            {low(id), high(id), 0xFF, low(value), high(value), low(value >> 16), high(value >> 16)});
@@ -191,8 +212,7 @@ bool Terminal::enter_text(Iso::Object_id id, std::string_view text)
     const Object input = pool().find(id);
     if (!input || !input.is(Type::input_string) || !is_enabled(input) || text.size() > 0xFF)
         return false;
-    const Object variable = pool().find(input.reference(Field::variable));
-    if (!live.set_text(variable ? variable : input, text))
+    if (!live.set_text(holder(pool(), input), text))
         return false;
     std::vector<std::uint8_t> message;
     Iso::Byte_writer out(message);
@@ -211,9 +231,109 @@ bool Terminal::escape(Iso::Object_id id)
     const Object input = pool().find(id);
     if (!input || !enable_bit(input) || input.is(Type::button))
         return false;
+    if (opened.number == id)
+        set_opened({});
     constexpr std::uint8_t no_error = 0;
     answer(Function::esc, {low(id), high(id), no_error});
     return true;
+}
+
+/// Both messages are made before the first one is sent: what the application does on it is not to be in the second.
+bool Terminal::press_and_release(Function function, Object object)
+{
+    const Frame pressed = activation(function, object, Iso::Activation::pressed);
+    const Frame released = activation(function, object, Iso::Activation::released);
+    tell(pressed);
+    tell(released);
+    return true;
+}
+
+bool Terminal::touch(Position place, std::size_t first_key)
+{
+    if (opened.number != Iso::null_id)
+        return false;
+    const Screen_layout layout(properties);
+    if (layout.mask().contains(place))
+        return touch_control(control_at(pool(), active_mask(), place));
+    const Object key_mask = active_soft_key_mask();
+    const std::size_t n_keys = key_mask ? key_mask.items().size() : 0;
+    for (int cell = 0; cell < layout.n_cells(); ++cell) {
+        const std::size_t number = first_key + static_cast<std::size_t>(cell);
+        if (number >= n_keys || !layout.cell(cell).contains(place))
+            continue;
+        const Object key = shown(pool(), pool().find(key_mask.items()[number].id));
+        return key && key.is(Type::key) && press_and_release(Function::soft_key_activation, key);
+    }
+    return false;
+}
+
+bool Terminal::touch_control(Object control)
+{
+    if (!control || !is_enabled(control))
+        return false;
+    switch (control.type()) {
+    case Type::button:
+        return press_and_release(Function::button_activation, control);
+    case Type::input_boolean:
+        return enter_number(control.id(), number_value(pool(), control) == 0);
+    case Type::input_number:
+        return select_input(control.id(), true, true);
+    default:
+        return false;
+    }
+}
+
+std::optional<Number_entry> Terminal::entry() const
+{
+    const Object input = pool().find(opened.number);
+    if (!input)
+        return std::nullopt;
+    return Number_entry(number_format(input), number_value(pool(), input), input.u32(Field::minimum),
+                        input.u32(Field::maximum));
+}
+
+std::string Terminal::enter(std::string_view text)
+{
+    const auto field = entry();
+    if (!field)
+        return "no number is open for entry";
+    const Number_entry::Reading reading = field->read(text);
+    if (reading.refusal.empty()) {
+        enter_number(opened.number, reading.value);
+        close_entry();
+    }
+    return reading.refusal;
+}
+
+bool Terminal::cancel()
+{
+    const Iso::Object_id id = opened.number;
+    return escape(id) && select_input(id, false, false);
+}
+
+void Terminal::set_opened(const Opened& now)
+{
+    n_openings += now.number != opened.number;
+    opened = now;
+}
+
+void Terminal::close_entry()
+{
+    const Iso::Object_id id = opened.number;
+    set_opened({});
+    select_input(id, false, false);
+}
+
+bool Terminal::entry_is_void() const
+{
+    const Object input = pool().find(opened.number);
+    if (!input)
+        return false;
+    // What was begun in kilometres must not be taken for miles.
+    const Number_format format = number_format(input);
+    const bool same_units = format.offset == opened.format.offset && format.scale == opened.format.scale &&
+                            format.decimals == opened.format.decimals;
+    return !same_units || !is_enabled(input) || id_of(active_mask()) != opened.mask;
 }
 
 } // namespace terminal

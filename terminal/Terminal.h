@@ -2,33 +2,30 @@
 #define TERMINAL_TERMINAL_H
 
 #include "iso11783/Function.h"
+#include "terminal/Area.h"
 #include "terminal/Commands.h"
+#include "terminal/Hardware.h"
 #include "terminal/Live_pool.h"
+#include "terminal/Number_entry.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 namespace terminal {
 
-/// What the terminal tells of itself.
-struct Hardware
-{
-    std::uint16_t mask_size = 480; ///< the data mask is a square of as many pixels
-    std::uint8_t soft_key_width = 60;
-    std::uint8_t soft_key_height = 60;
-    std::uint8_t physical_soft_keys = 8;
-    std::uint8_t virtual_soft_keys = 64;
-    std::uint8_t boot_time = 0xFF;              ///< in seconds; 0xFF: not told
-    std::uint8_t version = 4;                   ///< of the terminal's functions
-    std::size_t memory = std::size_t{16} << 20; ///< bytes of object records that the terminal takes
-};
-
 /// A Virtual Terminal for one application, without its screen and its clock: takes the application's messages, holds
-/// its pool, answers, and tells what the operator does. Answers and events go to `send`, complete messages of eight
-/// bytes or, for a text, more.
+/// its pool, answers, takes the operator's finger and entries, and tells what the operator does. Answers and events go
+/// to `send`, complete messages of eight bytes or, for a text, more.
+///
+/// One input number at a time is open for entry: selected and open for input, by touch() or select_input(). It closes
+/// by enter(), cancel() and escape(), when it is selected otherwise, and by itself when the application replaces or
+/// disables it, has it shown in other units, shows another mask or goes away. Whatever closes it but escape(), an
+/// application that still has that input is told that it is no longer selected.
 ///
 /// A message that is too short for its function is ignored, as is an answer to one of the terminal's own events. A
 /// function that the terminal does not know is answered with Function::unsupported_function and its number. Macros are
@@ -47,8 +44,8 @@ class Terminal
     const Hardware& hardware() const { return properties; }
     /// The live pool; empty while there is none.
     const Object_pool& pool() const { return live.objects(); }
-    /// Changes whenever anything in the pool does, and the screen may look different.
-    std::uint32_t revision() const { return live.revision(); }
+    /// Changes whenever anything in the pool does, and the screen may look different, or a number opens or closes.
+    std::uint32_t revision() const { return live.revision() + n_openings; }
     Object working_set() const { return live.working_set(); }
     /// What the screen shows: a data or alarm mask, and its soft key mask. Empty while there is no pool; a mask without
     /// soft keys has an empty soft key mask.
@@ -68,15 +65,48 @@ class Terminal
     bool enter_text(Iso::Object_id input, std::string_view text);
     bool escape(Iso::Object_id input);
 
+    /// The operator touches the screen with a finger and lifts it: the pixel `place` of Screen_layout, with the soft
+    /// keys from `first_key` on in the cells. A soft key or an enabled button is pressed and released, an enabled check
+    /// box changes over, an enabled input number opens for entry. False, and nothing happens, anywhere else, on strings
+    /// and lists, and while a number is open, because its entry covers the screen. control_at() says what lies where.
+    bool touch(Position place, std::size_t first_key = 0);
+
+    /// The input number that is open for entry, or the null id.
+    Iso::Object_id open_number() const { return opened.number; }
+    /// What can be entered into it now.
+    std::optional<Number_entry> entry() const;
+    /// The operator ends the entry with a number, written as a text. Returns why it is refused, and the entry stays
+    /// open; or nothing, and the input has the number and is closed.
+    std::string enter(std::string_view text);
+    /// The operator ends the entry without a number: escape(), and the input is closed; false if none is open.
+    bool cancel();
+
   private:
+    /// The input number that is open for entry, the mask it was opened in, and how it showed its value then.
+    struct Opened
+    {
+        Iso::Object_id number = Iso::null_id;
+        Iso::Object_id mask = Iso::null_id;
+        Number_format format;
+    };
+
+    void take(const std::uint8_t* message, std::size_t count);
     void answer(Iso::Function function, std::initializer_list<std::uint8_t> rest);
     void transfer(const std::uint8_t* records, std::size_t count);
     void end_of_pool();
-    bool activate(Iso::Function function, Object object, Iso::Activation activation);
+    Frame activation(Iso::Function function, Object object, Iso::Activation activation) const;
+    void tell(const Frame& message) { send(message.data(), message.size()); }
+    bool press_and_release(Iso::Function function, Object object);
+    bool touch_control(Object control);
+    void set_opened(const Opened& now);
+    void close_entry();
+    bool entry_is_void() const; ///< the number that is open is no longer to be entered
 
     Hardware properties;
     Send send;
     Live_pool live;
+    Opened opened;
+    std::uint32_t n_openings = 0;     ///< and closings
     std::vector<std::uint8_t> upload; ///< transferred, not ended yet
     bool upload_overflow = false;     ///< more was transferred than there is memory for
 };

@@ -112,7 +112,8 @@ void serve(std::uint16_t port, terminal::Renderer& renderer)
         take_answers(pool, link);
     };
 
-    terminal::Web_page page(link.terminal, renderer, std::move(choice), port);
+    const auto operated = [&] { take_answers(pool, link); };
+    terminal::Web_page page(link.terminal, renderer, std::move(choice), operated, port);
     std::printf("the terminal is at http://127.0.0.1:%u/ until Ctrl-C\n", unsigned{page.port()});
     std::fflush(stdout);
     const timespec second{1, 0};

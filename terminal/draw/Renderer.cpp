@@ -3,8 +3,10 @@
 #include "iso11783/Font_size.h"
 #include "iso11783/Palette.h"
 #include "terminal/Control.h"
+#include "terminal/Indirection.h"
 #include "terminal/Nesting.h"
-#include "terminal/draw/Number_text.h"
+#include "terminal/Number_text.h"
+#include "terminal/Screen_layout.h"
 #include "terminal/draw/Pictures.h"
 
 #include <array>
@@ -26,11 +28,11 @@ constexpr std::uint8_t black = 0;
 constexpr std::uint8_t white = 1;
 constexpr std::uint8_t grey = 8;
 
-namespace number_option {
-constexpr unsigned transparent = 1, leading_zeros = 2, zero_as_blank = 4, truncate = 8;
+namespace field_option {
+constexpr unsigned transparent = 1; ///< of numbers and strings alike
 }
 namespace string_option {
-constexpr unsigned transparent = 1, auto_wrap = 2, wrap_on_hyphen = 4;
+constexpr unsigned auto_wrap = 2, wrap_on_hyphen = 4;
 }
 namespace button_option {
 constexpr unsigned latched = 2, suppress_border = 4, transparent = 8, no_border = 32;
@@ -40,8 +42,6 @@ constexpr unsigned transparent = 1;
 }
 
 constexpr int button_border = 4;
-
-Area box_of(Object object) { return {0, 0, object.u16(Field::width), object.u16(Field::height)}; }
 
 Picture picture_of(Object object)
 {
@@ -73,32 +73,23 @@ Renderer::Renderer(const std::string& font_folder) : glyphs(font_folder) {}
 
 QImage Renderer::draw(const Terminal& terminal, std::size_t first_key)
 {
-    const Hardware& hardware = terminal.hardware();
-    const int size = hardware.mask_size;
-    const int width = hardware.soft_key_width;
-    const int height = hardware.soft_key_height;
-    const int cells = hardware.physical_soft_keys;
-    const int rows = height == 0 ? 1 : std::max(1, size / height);
-    const int columns = (cells + rows - 1) / rows;
-
-    start(terminal.pool(), size + columns * width, size);
-    canvas.view().fill(canvas.area(), black);
+    const Screen_layout layout(terminal.hardware());
+    start(terminal.pool(), layout.screen().right, layout.screen().bottom);
+    const View screen = canvas.view();
+    screen.fill(canvas.area(), black);
     const Object mask = terminal.active_mask();
     if (mask)
-        paint_mask(canvas.view().inside({0, 0, size, size}), mask);
+        paint_mask(screen.inside(layout.mask()), mask);
 
     const Object key_mask = terminal.active_soft_key_mask();
     if (key_mask) {
         const std::uint8_t background = key_mask.u8(Field::background);
         const List<Item> keys = key_mask.items();
-        canvas.view().fill({size, 0, canvas.width(), size}, background);
-        for (int cell = 0; cell < cells; ++cell) {
+        screen.fill(layout.keys(), background);
+        for (int cell = 0; cell < layout.n_cells(); ++cell) {
             const std::size_t key = first_key + static_cast<std::size_t>(cell);
-            const int left = size + cell / rows * width;
-            const int top = cell % rows * height;
             if (key < keys.size())
-                paint_key(canvas.view().inside({left, top, left + width, top + height}), pool->find(keys[key].id),
-                          background);
+                paint_key(screen.inside(layout.cell(cell)), pool->find(keys[key].id), background);
         }
     }
     return finish();
@@ -152,8 +143,7 @@ void Renderer::paint_mask(const View& view, Object mask)
 
 void Renderer::paint_key(const View& view, Object key, std::uint8_t mask_background)
 {
-    for (int pointers = 0; key && key.is(Object_type::object_pointer) && pointers < deepest; ++pointers)
-        key = find(key, Field::value);
+    key = shown(*pool, key);
     if (!key || !key.is(Object_type::key)) {
         view.fill(view.visible(), mask_background);
         return;
@@ -181,8 +171,7 @@ void Renderer::paint_children(const View& view, const List<Child>& children)
 
 void Renderer::paint(const View& view, Object object)
 {
-    for (int pointers = 0; object && object.is(Object_type::object_pointer) && pointers < deepest; ++pointers)
-        object = find(object, Field::value);
+    object = shown(*pool, object);
     if (!object)
         return;
     view.spend(work_of_object);
@@ -258,10 +247,11 @@ void Renderer::paint_button(const View& view, Object button)
 /// A tick or nothing, in a square.
 void Renderer::paint_input_boolean(const View& view, Object input)
 {
-    const int size = input.u16(Field::width);
-    const View box = view.inside({0, 0, size, size});
+    const Area square = box_of(input);
+    const int size = square.width();
+    const View box = view.inside(square);
     box.fill(box.visible(), input.u8(Field::background));
-    if (number_value(input) == 0)
+    if (number_value(*pool, input) == 0)
         return;
     const Position tick[] = {{size / 6, size / 2}, {size * 5 / 12, size * 3 / 4}, {size * 5 / 6, size / 6}};
     const Pen pen{{font_of(input).colour}, std::max(1, size / 8)};
@@ -271,7 +261,7 @@ void Renderer::paint_input_boolean(const View& view, Object input)
 void Renderer::paint_input_list(const View& view, Object input)
 {
     const List<Item> items = input.items();
-    const std::uint32_t chosen = number_value(input);
+    const std::uint32_t chosen = number_value(*pool, input);
     if (chosen >= items.size() || depth >= deepest)
         return;
     ++depth;
@@ -282,33 +272,23 @@ void Renderer::paint_input_list(const View& view, Object input)
 void Renderer::paint_string(const View& view, Object string)
 {
     const unsigned options = string.u8(Field::options);
-    const Object variable = find(string, Field::variable);
     const Wrapping wrapping{(options & string_option::auto_wrap) != 0, (options & string_option::wrap_on_hyphen) != 0};
-    paint_text(view, string, (variable ? variable : string).text(), wrapping);
+    paint_text(view, string, holder(*pool, string).text(), wrapping);
 }
 
 void Renderer::paint_number(const View& view, Object number)
 {
     view.spend(work_of_number);
-    const unsigned options = number.u8(Field::options);
-    Number_format format;
-    format.offset = number.s32(Field::offset);
-    format.scale = number.f32(Field::scale);
-    format.decimals = number.u8(Field::decimals);
-    format.exponential = number.u8(Field::format) != 0;
-    format.truncate = options & number_option::truncate;
-    format.leading_zeros = options & number_option::leading_zeros;
-    format.zero_as_blank = options & number_option::zero_as_blank;
     const int cell = Iso::font_size(font_of(number).size).width;
     const int columns = cell == 0 ? 0 : number.u16(Field::width) / cell;
-    paint_text(view, number, Number_text(number_value(number), format, columns).text(), {});
+    const Number_text text(number_value(*pool, number), number_format(number), columns);
+    paint_text(view, number, text.text(), {});
 }
 
 void Renderer::paint_text(const View& view, Object field, std::string_view text, Wrapping wrapping)
 {
-    static_assert(number_option::transparent == string_option::transparent, "one bit for both kinds of field");
     const Area box = box_of(field);
-    if (!(field.u8(Field::options) & string_option::transparent))
+    if (!(field.u8(Field::options) & field_option::transparent))
         view.fill(box, field.u8(Field::background));
     if (find(field, Field::font))
         draw_text(view, glyphs, text, font_of(field), box.right, box.bottom, field.u8(Field::justification), wrapping);
@@ -354,13 +334,6 @@ void Renderer::paint_polygon(const View& view, Object polygon)
 void Renderer::paint_picture(const View& view, Object picture)
 {
     draw_picture(view, picture_of(picture), picture.u16(Field::width));
-}
-
-/// What the object shows: the value of its variable, if it has one.
-std::uint32_t Renderer::number_value(Object object) const
-{
-    const Object variable = find(object, Field::variable);
-    return (variable ? variable : object).u32(Field::value);
 }
 
 Font Renderer::font_of(Object object) const

@@ -28,9 +28,8 @@ class Renderer
     /// Throws std::runtime_error, naming the file, if a font is missing.
     explicit Renderer(const std::string& font_folder = Glyphs::default_folder());
 
-    /// The active mask at the left and the column of soft key cells at its right. Cells that do not fit below each
-    /// other go on in a further column. `first_key` is the number of the key in the first cell, for paging. Without a
-    /// pool all is black.
+    /// The screen as Screen_layout lays it out. `first_key` is the number of the key in the first cell, for paging.
+    /// Without a pool all is black.
     QImage draw(const Terminal& terminal, std::size_t first_key = 0);
 
     /// One data or alarm mask, `size` pixels square.
@@ -68,7 +67,6 @@ class Renderer
     void paint_picture(const View& view, Object picture);
 
     Object find(Object object, Field reference) const { return pool->find(object.reference(reference)); }
-    std::uint32_t number_value(Object object) const;
     Font font_of(Object object) const;
     Pen pen_of(Object shape) const;
     const Paint* fill_of(const View& view, Object shape, Paint& paint);

@@ -39,23 +39,32 @@ std::string png(const QImage& image)
     return bytes.toStdString();
 }
 
+/// Of at most five digits.
+int number(const std::string& digits) { return std::stoi(digits); }
+
+void refuse(Response& response, int status, const std::string& reason)
+{
+    response.status = status;
+    response.set_content(reason, plain_text);
+}
+
 void explain(const Request&, Response& response, std::exception_ptr problem)
 {
-    response.status = 500;
     try {
         std::rethrow_exception(problem);
     } catch (const std::exception& known) {
-        response.set_content(known.what(), plain_text);
+        refuse(response, 500, known.what());
     } catch (...) {
-        response.set_content("unknown problem", plain_text);
+        refuse(response, 500, "unknown problem");
     }
 }
 
 } // namespace
 
-Web_page::Web_page(const Terminal& shown_terminal, Renderer& its_renderer, Screen_choice screens, std::uint16_t port)
+Web_page::Web_page(Terminal& shown_terminal, Renderer& its_renderer, Screen_choice screens,
+                   std::function<void()> operator_did_something, std::uint16_t port)
     : terminal(shown_terminal), renderer(its_renderer), choice(std::move(screens)),
-      server(std::make_unique<httplib::Server>())
+      operated(std::move(operator_did_something)), server(std::make_unique<httplib::Server>())
 {
     // Qt takes the first thread that it meets for the main thread: let that not be one of the server.
     QThread::currentThread();
@@ -83,9 +92,33 @@ void Web_page::add_routes()
         const auto locked = lock();
         response.set_content(choice.shown(), plain_text);
     });
-    // A request to show a screen may say nothing of a length: there is no body that one would have to wait for.
-    server->Post("/page/(.+)", [this](const Request& request, Response& response, const httplib::ContentReader&) {
-        response.status = show(request.matches[1]) ? 204 : 404;
+    server->Get("/entry",
+                [this](const Request&, Response& response) { response.set_content(entry(), "application/json"); });
+
+    // None of the requests has a body, and they may say nothing of a length: there is none to be waited for.
+    const auto post = [this](const char* path, auto act) {
+        server->Post(path, [act](const Request& request, Response& response, const httplib::ContentReader&) {
+            response.status = 204;
+            act(request, response);
+        });
+    };
+    post("/page/(.+)", [this](const Request& request, Response& response) {
+        if (!show(request.matches[1]))
+            response.status = 404;
+    });
+    post("/touch/(\\d{1,5})/(\\d{1,5})", [this](const Request& request, Response&) {
+        touch({number(request.matches[1]), number(request.matches[2])});
+    });
+    post("/entry/(\\d{1,5})", [this](const Request& request, Response& response) {
+        enter(number(request.matches[1]), request.get_param_value("text"), response);
+    });
+    post("/escape/(\\d{1,5})",
+         [this](const Request& request, Response& response) { escape(number(request.matches[1]), response); });
+    server->set_pre_routing_handler([this](const Request& request, Response& response) {
+        if (request.method != "POST" || is_own(request))
+            return httplib::Server::HandlerResponse::Unhandled;
+        refuse(response, 403, "this is for the terminal's own page only");
+        return httplib::Server::HandlerResponse::Handled;
     });
     server->set_exception_handler(explain);
     server->set_default_headers({{"Cache-Control", "no-store"}});
@@ -120,6 +153,21 @@ void Web_page::listen(std::uint16_t port)
     running->get_future().wait();
 }
 
+/// Whether the request is for this page by one of its two names, and comes from it if it says from where.
+bool Web_page::is_own(const Request& request) const
+{
+    constexpr std::uint16_t usual_port = 80; // which browsers leave out
+    const std::string port_part = listening_port == usual_port ? "" : ":" + std::to_string(listening_port);
+    const std::string hosts[] = {address + port_part, "localhost" + port_part};
+    const auto all_own = [&](const char* header, const std::string& before) {
+        const auto [first, last] = request.headers.equal_range(header);
+        return std::all_of(first, last, [&](const auto& entry) {
+            return entry.second == before + hosts[0] || entry.second == before + hosts[1];
+        });
+    };
+    return all_own("Host", "") && all_own("Origin", "http://");
+}
+
 std::string Web_page::html() const
 {
     std::string choices;
@@ -140,6 +188,17 @@ std::string Web_page::picture()
     return png(image);
 }
 
+std::string Web_page::entry()
+{
+    const auto locked = lock();
+    const auto open = terminal.entry();
+    if (!open)
+        return "null";
+    return "{\"id\":" + std::to_string(terminal.open_number()) + ",\"value\":\"" + open->value() + "\",\"lowest\":\"" +
+           open->lowest() + "\",\"highest\":\"" + open->highest() +
+           "\",\"decimals\":" + std::to_string(open->decimals()) + "}";
+}
+
 bool Web_page::show(const std::string& name)
 {
     const auto found = std::find(choice.names.begin(), choice.names.end(), name);
@@ -148,6 +207,46 @@ bool Web_page::show(const std::string& name)
     const auto locked = lock();
     choice.show(static_cast<std::size_t>(found - choice.names.begin()));
     return true;
+}
+
+void Web_page::touch(Position place)
+{
+    const auto locked = lock();
+    if (terminal.touch(place))
+        tell_application();
+}
+
+void Web_page::enter(int id, const std::string& text, Response& response)
+{
+    const auto locked = lock();
+    if (!is_open(id, response))
+        return;
+    const std::string refusal = terminal.enter(text);
+    if (!refusal.empty())
+        return refuse(response, 422, refusal);
+    tell_application();
+}
+
+void Web_page::escape(int id, Response& response)
+{
+    const auto locked = lock();
+    if (is_open(id, response) && terminal.cancel())
+        tell_application();
+}
+
+/// It may have closed, or another one opened, since the viewer has seen it.
+bool Web_page::is_open(int id, Response& response) const
+{
+    const bool open = terminal.entry() && terminal.open_number() == id;
+    if (!open)
+        refuse(response, 409, "this field is no longer open");
+    return open;
+}
+
+void Web_page::tell_application() const
+{
+    if (operated)
+        operated();
 }
 
 } // namespace terminal

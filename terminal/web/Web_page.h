@@ -15,7 +15,9 @@
 
 namespace httplib {
 class Server;
-}
+struct Request;
+struct Response;
+} // namespace httplib
 
 namespace terminal {
 
@@ -28,22 +30,33 @@ struct Screen_choice
 };
 
 /// Shows a terminal in web browsers on this machine, from construction to destruction: its screen, kept up to date, and
-/// the choice of screens. The address is http://127.0.0.1:port()/.
+/// the choice of screens; and takes the viewer for its operator, whose clicks and taps are touches, and who enters
+/// numbers in a dialog. The address is http://127.0.0.1:port()/.
 ///
 /// Terminal and renderer stay the caller's and outlive the page. The page uses them from threads of its own, one at a
 /// time and only while it is locked; so between construction and destruction of the page everybody else, too, touches
 /// them only while holding lock(). What is drawn belongs to the thread that asked for it.
 ///
-///     GET  /              the page itself, which needs nothing else from anywhere
-///     GET  /screen.png    what the terminal shows
-///     GET  /revision      a number that changes with the screen
-///     GET  /page          the name of the screen that is shown
-///     POST /page/<name>   shows that screen; 404 if there is none of that name
+///     GET  /                     the page itself, which needs nothing else from anywhere
+///     GET  /screen.png           what the terminal shows
+///     GET  /revision             a number that changes with the screen and the entry
+///     GET  /page                 the name of the screen that is shown
+///     GET  /entry                the number that is open for entry, as JSON: null, or its id and what Number_entry
+///     says POST /page/<name>          shows that screen; 404 if there is none of that name POST /touch/<x>/<y> touches
+///     that pixel of the screen POST /entry/<id>?text=<…>  enters that number; 422 and the reason if it is refused, 409
+///     if it is not open POST /escape/<id>          leaves that number without entering one; 409 if it is not open
+///
+/// A POST is refused with 403 if it says that it comes from another site's page, or was meant for another host: what
+/// else is open in the browser does not press keys.
 class Web_page
 {
   public:
     /// Port 0 takes any free one. Throws std::system_error, naming the address, if it cannot be listened on.
-    Web_page(const Terminal& terminal, Renderer& renderer, Screen_choice choice, std::uint16_t port);
+    ///
+    /// `operated`, unless it is empty, is called with the Web_page locked when the operator has done something that the
+    /// terminal told the application; what it throws is shown to the viewer.
+    Web_page(Terminal& terminal, Renderer& renderer, Screen_choice choice, std::function<void()> operated,
+             std::uint16_t port);
     /// Lets requests that have begun finish; a client that falls silent holds it up for two seconds at most.
     ~Web_page();
     Web_page(const Web_page&) = delete;
@@ -57,14 +70,22 @@ class Web_page
   private:
     void add_routes();
     void listen(std::uint16_t port);
+    bool is_own(const httplib::Request& request) const;
     std::string html() const;
     std::string picture();
+    std::string entry();
     bool show(const std::string& name);
+    void touch(Position place);
+    void enter(int id, const std::string& text, httplib::Response& response);
+    void escape(int id, httplib::Response& response);
+    bool is_open(int id, httplib::Response& response) const;
+    void tell_application() const;
 
-    const Terminal& terminal;
+    Terminal& terminal;
     Renderer& renderer;
     const Screen_choice choice;
-    std::mutex mutex; ///< of terminal, renderer and the functions of `choice`
+    const std::function<void()> operated;
+    std::mutex mutex; ///< of terminal, renderer, `operated` and the functions of `choice`
 
     std::uint16_t listening_port = 0;
     std::unique_ptr<httplib::Server> server;

@@ -138,6 +138,8 @@ TEST(Terminal, AnswersWhatItIsMadeOf)
     EXPECT_EQ(session.ask(message(0xC3)), message(0xC3, 0xFF, 0xFF, 0xFF, 0xFF, 0x7F, 0x7F, 0x0F));
     EXPECT_EQ(session.ask(message(0xC7)), message(0xC7, 12, 2, 3, w(240), w(240)));
     EXPECT_EQ(Session().ask(message(0xC7)), message(0xC7, 0xFF, 2, 3, w(480), w(480)));
+    hardware.touch = false;
+    EXPECT_EQ(Session(hardware).ask(message(0xC7)), message(0xC7, 12, 2, 0, w(240), w(240)));
 }
 
 TEST(Terminal, TellsItsStatus)

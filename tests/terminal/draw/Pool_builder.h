@@ -43,6 +43,10 @@ class Pool_builder
         int decimals = 0;
         int format = 0;
         Id variable = none;
+        // Of an input number only.
+        std::uint32_t minimum = 0;
+        std::uint32_t maximum = 0xFFFFFFFF;
+        bool enabled = true;
     };
 
     Id font(int colour, int size, int style = 0) { return add(Type::font_attributes, colour, size, 0, style, 0); }
@@ -105,14 +109,14 @@ class Pool_builder
     Id input_number(const Field& field, const Number& number)
     {
         return add(Type::input_number, size(field.width, field.height), field.background, w(field.font), field.options,
-                   w(number.variable), d(number.value), d(0), d(0xFFFFFFFF),
+                   w(number.variable), d(number.value), d(number.minimum), d(number.maximum),
                    d(static_cast<std::uint32_t>(number.offset)), f(number.scale), number.decimals, number.format,
-                   field.justification, 1, 0);
+                   field.justification, static_cast<int>(number.enabled), 0);
     }
-    Id input_boolean(int width, int background, Id font, int value, Id variable = none)
+    Id input_boolean(int width, int background, Id font, int value, Id variable = none, int enabled = 1)
     {
         return add(Type::input_boolean, background, w(static_cast<std::uint16_t>(width)), w(font), w(variable), value,
-                   1, 0);
+                   enabled, 0);
     }
     Id input_list(int width, int height, int value, std::initializer_list<Id> items, Id variable = none)
     {

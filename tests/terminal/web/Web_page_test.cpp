@@ -1,12 +1,4 @@
-#include "terminal/web/Web_page.h"
-#include "tests/terminal/Session.h"
-#include "tests/terminal/draw/Pool_builder.h"
-
-#include <QImage>
-#include <QUrl>
-
-#include <gtest/gtest.h>
-#include <httplib.h>
+#include "tests/terminal/web/Web_page_fixture.h"
 
 #include <netinet/in.h>
 #include <sys/socket.h>
@@ -38,77 +30,6 @@ int begin(std::uint16_t port, const std::string& request)
     EXPECT_EQ(send(connection, request.data(), request.size(), 0), static_cast<ssize_t>(request.size()));
     return connection;
 }
-
-/// A terminal that shows one of two screens, a red and a blue one with different squares, and its page.
-class WebPage : public testing::Test
-{
-  protected:
-    static constexpr std::uint16_t mask_size = 240;
-    static constexpr const char* blue_name = "Blue <&> 50% \"\xC3\xBC/+\"";
-
-    WebPage()
-    {
-        Pool_builder builder;
-        const auto square = builder.rectangle(50, 40, builder.line_attributes(1, 3));
-        red = builder.mask(12, {{square, 10, 20}});
-        blue = builder.mask(9, {{square, 100, 120}});
-        working_set = builder.working_set(red);
-        EXPECT_EQ(session.load(builder.bytes()), accepted);
-    }
-
-    static Hardware hardware()
-    {
-        Hardware small;
-        small.mask_size = mask_size;
-        return small;
-    }
-
-    Screen_choice choice()
-    {
-        return {{"Red", blue_name, "Broken"},
-                [this] { return session.terminal.active_mask().id() == red ? "Red" : blue_name; },
-                [this](std::size_t index) { show(index); }};
-    }
-
-    void show(std::size_t index)
-    {
-        if (index == 2)
-            throw std::runtime_error("the terminal refused it");
-        session.ask(message(0xAD, w(working_set), w(index == 0 ? red : blue)));
-    }
-
-    QImage drawn()
-    {
-        const auto locked = page.lock();
-        return renderer.draw(session.terminal);
-    }
-
-    QImage sent()
-    {
-        const auto answer = client.Get("/screen.png");
-        EXPECT_TRUE(answer && answer->status == 200 && answer->get_header_value("Content-Type") == "image/png");
-        return answer ? QImage::fromData(QByteArray::fromStdString(answer->body), "PNG") : QImage();
-    }
-
-    std::string text(const char* path)
-    {
-        const auto answer = client.Get(path);
-        EXPECT_TRUE(answer && answer->status == 200) << path;
-        return answer ? answer->body : "no answer";
-    }
-
-    int status(const httplib::Result& answer) { return answer ? answer->status : -1; }
-    int choose(const std::string& name)
-    {
-        return status(client.Post("/page/" + QUrl::toPercentEncoding(QString::fromStdString(name)).toStdString()));
-    }
-
-    Pool_builder::Id red, blue, working_set;
-    Session session{hardware()};
-    Renderer renderer;
-    Web_page page{session.terminal, renderer, choice(), 0};
-    httplib::Client client{"127.0.0.1", page.port()};
-};
 
 TEST_F(WebPage, IsOneHtmlFileThatNeedsNothingFromElsewhere)
 {
@@ -163,7 +84,8 @@ TEST_F(WebPage, ShowsTheScreenThatTheViewerChooses)
 
 TEST_F(WebPage, TakesAChoiceThatSaysNothingOfItsLength)
 {
-    const int connection = begin(page.port(), "POST /page/Red HTTP/1.1\r\nHost: here\r\n\r\n");
+    const int connection =
+        begin(page.port(), "POST /page/Red HTTP/1.1\r\nHost: localhost:" + std::to_string(page.port()) + "\r\n\r\n");
     char answer[12] = {};
     EXPECT_EQ(recv(connection, answer, sizeof(answer), MSG_WAITALL), 12);
     EXPECT_EQ(std::string(answer, sizeof(answer)), "HTTP/1.1 204");
@@ -194,7 +116,7 @@ TEST_F(WebPage, TellsTheViewerWhyAScreenCannotBeShown)
 
 TEST_F(WebPage, IsNeverTakenFromACache)
 {
-    for (const char* path : {"/", "/screen.png", "/revision", "/page"}) {
+    for (const char* path : {"/", "/screen.png", "/revision", "/page", "/entry"}) {
         const auto answer = client.Get(path);
         ASSERT_EQ(status(answer), 200);
         EXPECT_EQ(answer->get_header_value("Cache-Control"), "no-store") << path;
@@ -205,13 +127,19 @@ TEST_F(WebPage, TakesNoLongMessages) { EXPECT_EQ(status(client.Post("/", std::st
 
 TEST_F(WebPage, KeepsAwayFromTheTerminalWhileItIsLocked)
 {
-    for (const char* path : {"/screen.png", "/revision", "/page"}) {
+    const auto expect_to_wait = [this](const char* path, int answered, auto ask) {
         auto locked = page.lock();
-        auto answer = std::async(std::launch::async, [&] { return status(client.Get(path)); });
+        auto answer = std::async(std::launch::async, [&] { return status(ask()); });
         EXPECT_EQ(answer.wait_for(50ms), std::future_status::timeout) << path;
         locked.unlock();
-        EXPECT_EQ(answer.get(), 200) << path;
-    }
+        EXPECT_EQ(answer.get(), answered) << path;
+    };
+    for (const char* path : {"/screen.png", "/revision", "/page", "/entry"})
+        expect_to_wait(path, 200, [&] { return client.Get(path); });
+    for (const char* path : {"/page/Red", "/touch/0/0"})
+        expect_to_wait(path, 204, [&] { return client.Post(path); });
+    for (const char* path : {"/entry/1?text=1", "/escape/1"})
+        expect_to_wait(path, 409, [&] { return client.Post(path); });
 }
 
 TEST_F(WebPage, ServesManyViewersWhileTheApplicationGoesOn)
@@ -246,7 +174,7 @@ TEST_F(WebPage, IsForThisMachineOnly)
 TEST_F(WebPage, ReportsAPortInUse)
 {
     try {
-        Web_page second(session.terminal, renderer, choice(), page.port());
+        Web_page second(session.terminal, renderer, choice(), {}, page.port());
         FAIL() << "two pages on port " << page.port();
     } catch (const std::system_error& problem) {
         EXPECT_EQ(problem.code(), std::errc::address_in_use);
@@ -260,18 +188,18 @@ TEST_F(WebPage, FreesItsPortAtTheEnd)
 {
     std::uint16_t port;
     {
-        const Web_page first(session.terminal, renderer, {}, 0);
+        const Web_page first(session.terminal, renderer, {}, {}, 0);
         port = first.port();
         EXPECT_EQ(status(httplib::Client("127.0.0.1", port).Get("/")), 200);
     }
     EXPECT_EQ(httplib::Client("127.0.0.1", port).Get("/").error(), httplib::Error::Connection);
-    const Web_page second(session.terminal, renderer, {}, port);
+    const Web_page second(session.terminal, renderer, {}, {}, port);
     EXPECT_EQ(second.port(), port);
 }
 
 TEST_F(WebPage, DoesNotWaitLongForASilentClient)
 {
-    auto first = std::make_unique<Web_page>(session.terminal, renderer, Screen_choice(), 0);
+    auto first = std::make_unique<Web_page>(session.terminal, renderer, Screen_choice(), nullptr, 0);
     const int silent = begin(first->port(), "GET / HT");
     EXPECT_EQ(status(httplib::Client("127.0.0.1", first->port()).Get("/")), 200); // the silent one was taken in before
 
@@ -285,7 +213,7 @@ TEST(WebPageWithoutAPool, ShowsABlackScreenAndNoChoice)
 {
     Session session;
     Renderer renderer;
-    const Web_page page(session.terminal, renderer, {{}, [] { return std::string(); }, {}}, 0);
+    const Web_page page(session.terminal, renderer, {{}, [] { return std::string(); }, {}}, {}, 0);
     httplib::Client client("127.0.0.1", page.port());
     const auto html = client.Get("/");
     ASSERT_TRUE(html);

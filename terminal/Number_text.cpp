@@ -1,4 +1,6 @@
-#include "terminal/draw/Number_text.h"
+#include "terminal/Number_text.h"
+
+#include "terminal/Decimal.h"
 
 #include <algorithm>
 #include <charconv>
@@ -8,39 +10,6 @@ namespace terminal {
 namespace {
 
 constexpr int most_decimals = 7; ///< what the standard allows
-
-/// digits × 10^exponent
-struct Decimal
-{
-    std::int64_t digits = 0;
-    int exponent = 0;
-};
-
-/// The shortest decimal number that makes this finite float; at most nine digits.
-Decimal shortest(float number)
-{
-    std::array<char, 32> text;
-    const auto written = std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::scientific);
-    Decimal result;
-    const char* c = text.data();
-    const bool negative = *c == '-';
-    bool behind_point = false;
-    for (c += negative; *c != 'e'; ++c) {
-        if (*c == '.') {
-            behind_point = true;
-            continue;
-        }
-        result.digits = result.digits * 10 + (*c - '0');
-        result.exponent -= behind_point;
-    }
-    ++c;
-    int exponent = 0;
-    std::from_chars(c + (*c == '+'), written.ptr, exponent);
-    result.exponent += exponent;
-    if (negative)
-        result.digits = -result.digits;
-    return result;
-}
 
 /// Drops the last `count` decimal digits.
 std::uint64_t dropped(std::uint64_t digits, int count, bool truncate)
@@ -72,6 +41,21 @@ class Digits
 };
 
 } // namespace
+
+Number_format number_format(Object number)
+{
+    constexpr unsigned leading_zeros = 2, zero_as_blank = 4, truncate = 8;
+    const unsigned options = number.u8(Field::options);
+    Number_format format;
+    format.offset = number.s32(Field::offset);
+    format.scale = number.f32(Field::scale);
+    format.decimals = number.u8(Field::decimals);
+    format.exponential = number.u8(Field::format) != 0;
+    format.truncate = options & truncate;
+    format.leading_zeros = options & leading_zeros;
+    format.zero_as_blank = options & zero_as_blank;
+    return format;
+}
 
 Number_text::Number_text(std::uint32_t value, const Number_format& format, int columns)
 {

@@ -1,4 +1,4 @@
-#include "terminal/draw/Number_text.h"
+#include "terminal/Number_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,7 @@
-#ifndef TERMINAL_DRAW_NUMBER_TEXT_H
-#define TERMINAL_DRAW_NUMBER_TEXT_H
+#ifndef TERMINAL_NUMBER_TEXT_H
+#define TERMINAL_NUMBER_TEXT_H
+
+#include "terminal/Object.h"
 
 #include <array>
 #include <cstddef>
@@ -20,9 +22,12 @@ struct Number_format
     bool zero_as_blank = false; ///< if it is exactly zero, not if it only rounds to zero
 };
 
-/// The text of a displayed number, (value + offset) × scale, worked out exactly in decimal digits. For that the scale
-/// is taken as the shortest decimal number that makes the same float: it was written as 0.01, not as
-/// 0.00999999977648258. No digit is lost, truncating does not turn 0.29 into 0.28, and there is no negative zero.
+/// The format of an input or output number.
+Number_format number_format(Object number);
+
+/// The text of a displayed number, (value + offset) × scale, worked out exactly in decimal digits, for which the scale
+/// is the shortest() decimal number that makes it. No digit is lost, truncating does not turn 0.29 into 0.28, and there
+/// is no negative zero.
 class Number_text
 {
   public:

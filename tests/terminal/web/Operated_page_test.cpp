@@ -1,0 +1,147 @@
+#include "tests/terminal/web/Web_page_fixture.h"
+
+namespace terminal {
+namespace {
+
+using OperatedPage = WebPage;
+
+TEST_F(OperatedPage, TouchesThePixelThatTheViewerClicks)
+{
+    const auto button_at = [this](int code) { return message(0x01, code, w(button), w(red), 1); };
+    EXPECT_EQ(told("/touch/219/239"), (std::vector<Bytes>{button_at(1), button_at(0)}));
+    EXPECT_TRUE(told("/touch/220/239").empty());
+    EXPECT_TRUE(told("/touch/0/0").empty());
+    EXPECT_TRUE(told("/touch/99999/99999").empty());
+    for (const char* path :
+         {"/touch/1", "/touch/1/", "/touch/-1/1", "/touch/1/1/1", "/touch/a/b", "/touch/100000/1", "/touch/1.5/1"})
+        EXPECT_TRUE(told(path, 404).empty()) << path;
+}
+
+TEST_F(OperatedPage, TellsWhichNumberIsOpenAndWhatItTakes)
+{
+    EXPECT_EQ(text("/entry"), "null");
+    const std::string before = text("/revision");
+    EXPECT_EQ(told(open_number()), std::vector<Bytes>{message(0x03, w(number), 1, 1)});
+    EXPECT_NE(text("/revision"), before);
+    EXPECT_EQ(text("/entry"), "{\"id\":" + std::to_string(number) +
+                                  R"(,"value":"0.5","lowest":"-10.0","highest":"10.0","decimals":1})");
+    EXPECT_EQ(client.Get("/entry")->get_header_value("Content-Type"), "application/json");
+}
+
+TEST_F(OperatedPage, EntersTheNumberThatTheViewerWrites)
+{
+    told(open_number());
+    const std::string before = text("/revision");
+    EXPECT_EQ(told(entry_of("entry") + "?text=%2B2%2C5"),
+              (std::vector<Bytes>{message(0x05, w(number), 0xFF, d(125)), message(0x03, w(number), 0, 0)}));
+    EXPECT_NE(text("/revision"), before);
+    EXPECT_EQ(text("/entry"), "null");
+    EXPECT_TRUE(told(entry_of("entry") + "?text=2.5", 409).empty()) << "it is no longer open";
+}
+
+TEST_F(OperatedPage, SaysWhyANumberIsRefusedAndKeepsItOpen)
+{
+    told(open_number());
+    const auto refusal = [this](const std::string& query) {
+        const auto answer = client.Post(entry_of("entry") + query);
+        EXPECT_EQ(status(answer), 422) << query;
+        return answer ? answer->body : "";
+    };
+    times_told = 0;
+    EXPECT_EQ(refusal("?text=10.1"), "the entry is above the highest number, 10.0");
+    EXPECT_EQ(refusal("?text=-10.1"), "the entry is below the lowest number, -10.0");
+    for (const char* query : {"?text=abc", "?text=", "", "?text=%00", "?text=%FF", "?text=../..", "?other=1"})
+        EXPECT_EQ(refusal(query), "the entry is not a number") << query;
+    EXPECT_EQ(refusal("?text=" + std::string(5000, '1')), "the entry is above the highest number, 10.0");
+    EXPECT_EQ(times_told, 0);
+    EXPECT_EQ(told(entry_of("entry") + "?text=10").size(), 2u);
+}
+
+TEST_F(OperatedPage, LeavesTheNumberWhenTheViewerCancels)
+{
+    told(open_number());
+    EXPECT_EQ(told(entry_of("escape")),
+              (std::vector<Bytes>{message(0x04, w(number), 0), message(0x03, w(number), 0, 0)}));
+    EXPECT_EQ(text("/entry"), "null");
+    EXPECT_TRUE(told(entry_of("escape"), 409).empty());
+}
+
+TEST_F(OperatedPage, TakesAnEntryForTheOpenNumberOnly)
+{
+    EXPECT_TRUE(told("/entry/65535?text=1", 409).empty()) << "none is open";
+    EXPECT_TRUE(told("/escape/65535", 409).empty());
+    told(open_number());
+    EXPECT_TRUE(told("/entry/" + std::to_string(button) + "?text=1", 409).empty());
+    EXPECT_TRUE(told("/escape/" + std::to_string(65536 + number), 409).empty());
+    for (const char* path : {"/entry/", "/entry/x?text=1", "/escape", "/escape/-1", "/entry/123456?text=1"})
+        EXPECT_TRUE(told(path, 404).empty()) << path;
+    EXPECT_NE(text("/entry"), "null");
+}
+
+TEST_F(OperatedPage, ShowsTheViewerThatTheTerminalClosedTheNumber)
+{
+    told(open_number());
+    const std::string before = text("/revision");
+    EXPECT_EQ(choose(blue_name), 204);
+    EXPECT_NE(text("/revision"), before);
+    EXPECT_EQ(text("/entry"), "null");
+}
+
+TEST_F(OperatedPage, TellsTheViewerWhatTheApplicationSaysToAnOperation)
+{
+    objection = "the pool refused it";
+    for (const std::string& path : {open_number(), entry_of("entry") + "?text=1", open_number(), entry_of("escape")}) {
+        const auto answer = client.Post(path);
+        ASSERT_EQ(status(answer), 500) << path;
+        EXPECT_EQ(answer->body, objection);
+    }
+    EXPECT_EQ(text("/entry"), "null") << "the terminal has taken all of it";
+}
+
+TEST_F(OperatedPage, IsOperatedByItselfOnly)
+{
+    const std::string port = ":" + std::to_string(page.port());
+    const auto answered = [&](const char* header, const std::string& value) {
+        const std::vector<std::string> paths{"/page/Red", open_number(), entry_of("entry") + "?text=1", open_number(),
+                                             entry_of("escape")};
+        std::vector<int> all;
+        for (const std::string& path : paths)
+            all.push_back(status(client.Post(path, httplib::Headers{{header, value}})));
+        return all;
+    };
+    const std::vector<int> taken(5, 204);
+    const std::vector<int> refused(5, 403);
+    EXPECT_EQ(answered("Origin", "http://127.0.0.1" + port), taken);
+    EXPECT_EQ(answered("Origin", "http://localhost" + port), taken);
+    EXPECT_EQ(answered("Host", "localhost" + port), taken);
+    EXPECT_EQ(answered("Host", "127.0.0.1" + port), taken);
+    const std::string before = text("/revision");
+    const std::string origins[] = {"null",
+                                   "http://127.0.0.1",
+                                   "https://127.0.0.1" + port,
+                                   "http://127.0.0.1" + port + "0",
+                                   "http://127.0.0.1" + port + "/",
+                                   "http://example.com",
+                                   "http://127.0.0.2" + port,
+                                   "http://localhost" + port + ".example.com"};
+    for (const std::string& origin : origins)
+        EXPECT_EQ(answered("Origin", origin), refused) << origin;
+    const std::string hosts[] = {"example.com", "localhost", "example.com" + port, "127.0.0.1" + port + ".example.com",
+                                 "localhost" + port + "1"};
+    for (const std::string& host : hosts)
+        EXPECT_EQ(answered("Host", host), refused) << host;
+    EXPECT_EQ(text("/revision"), before);
+    EXPECT_EQ(status(client.Post("/page/Red", httplib::Headers{{"Origin", "http://localhost" + port},
+                                                               {"Origin", "http://example.com"}})),
+              403);
+}
+
+TEST_F(OperatedPage, IsReadByWhoeverAsks)
+{
+    const httplib::Headers elsewhere{{"Origin", "http://example.com"}};
+    for (const char* path : {"/", "/screen.png", "/revision", "/page", "/entry"})
+        EXPECT_EQ(status(client.Get(path, elsewhere)), 200) << path;
+}
+
+} // namespace
+} // namespace terminal

@@ -1,0 +1,129 @@
+#ifndef TESTS_TERMINAL_WEB_WEB_PAGE_FIXTURE_H
+#define TESTS_TERMINAL_WEB_WEB_PAGE_FIXTURE_H
+
+#include "terminal/web/Web_page.h"
+#include "tests/terminal/Session.h"
+#include "tests/terminal/draw/Pool_builder.h"
+
+#include <QImage>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+#include <httplib.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace terminal {
+
+/// A terminal that shows one of two screens, a red and a blue one with different squares, and its page. The red screen
+/// has an input number and a button, too.
+class WebPage : public testing::Test
+{
+  protected:
+    static constexpr std::uint16_t mask_size = 240;
+    static constexpr const char* blue_name = "Blue <&> 50% \"\xC3\xBC/+\"";
+
+    WebPage()
+    {
+        Pool_builder builder;
+        const auto square = builder.rectangle(50, 40, builder.line_attributes(1, 3));
+        Pool_builder::Number tenths;
+        tenths.value = 105;
+        tenths.offset = -100;
+        tenths.scale = 0.1f;
+        tenths.decimals = 1;
+        tenths.maximum = 200;
+        number = builder.input_number({20, 10, Pool_builder::none}, tenths);
+        button = builder.button(20, 10, 0, 0, 0);
+        red = builder.mask(12, {{square, 10, 20}, {number, 100, 100}, {button, 200, 230}});
+        blue = builder.mask(9, {{square, 100, 120}});
+        working_set = builder.working_set(red);
+        EXPECT_EQ(session.load(builder.bytes()), accepted);
+    }
+
+    static Hardware hardware()
+    {
+        Hardware small;
+        small.mask_size = mask_size;
+        return small;
+    }
+
+    Screen_choice choice()
+    {
+        return {{"Red", blue_name, "Broken"},
+                [this] { return session.terminal.active_mask().id() == red ? "Red" : blue_name; },
+                [this](std::size_t index) { show(index); }};
+    }
+
+    void show(std::size_t index)
+    {
+        if (index == 2)
+            throw std::runtime_error("the terminal refused it");
+        const Bytes command = message(0xAD, w(working_set), w(index == 0 ? red : blue));
+        session.terminal.receive(command.data(), command.size());
+    }
+
+    void take()
+    {
+        ++times_told;
+        if (!objection.empty())
+            throw std::runtime_error(objection);
+    }
+
+    QImage drawn()
+    {
+        const auto locked = page.lock();
+        return renderer.draw(session.terminal);
+    }
+
+    QImage sent()
+    {
+        const auto answer = client.Get("/screen.png");
+        EXPECT_TRUE(answer && answer->status == 200 && answer->get_header_value("Content-Type") == "image/png");
+        return answer ? QImage::fromData(QByteArray::fromStdString(answer->body), "PNG") : QImage();
+    }
+
+    std::string text(const char* path)
+    {
+        const auto answer = client.Get(path);
+        EXPECT_TRUE(answer && answer->status == 200) << path;
+        return answer ? answer->body : "no answer";
+    }
+
+    /// What the application is told of a request, and by the page, that there is something to be told.
+    std::vector<Bytes> told(const std::string& path, int expected_status = 204)
+    {
+        {
+            const auto locked = page.lock();
+            session.sent.clear();
+            times_told = 0;
+        }
+        EXPECT_EQ(status(client.Post(path)), expected_status) << path;
+        const auto locked = page.lock();
+        EXPECT_EQ(times_told, session.sent.empty() ? 0 : 1) << path;
+        return session.sent;
+    }
+
+    std::string entry_of(const char* action) { return "/" + std::string(action) + "/" + std::to_string(number); }
+    std::string open_number() { return "/touch/100/100"; }
+
+    int status(const httplib::Result& answer) { return answer ? answer->status : -1; }
+    int choose(const std::string& name)
+    {
+        return status(client.Post("/page/" + QUrl::toPercentEncoding(QString::fromStdString(name)).toStdString()));
+    }
+
+    Pool_builder::Id red, blue, working_set, number, button;
+    int times_told = 0;
+    std::string objection; ///< that the application has with what it is told
+    Session session{hardware()};
+    Renderer renderer;
+    Web_page page{session.terminal, renderer, choice(), [this] { take(); }, 0};
+    httplib::Client client{"127.0.0.1", page.port()};
+};
+
+} // namespace terminal
+
+#endif
