@@ -10,15 +10,31 @@
 
 namespace gallery {
 
+/// A text that stays as it is.
+class Words
+{
+  public:
+    explicit Words(const char* words)
+        : text(words), variable(VT::VT_obj::NULL_ID, nullptr, static_cast<std::uint16_t>(text.size()), text.data())
+    {}
+
+  private:
+    std::string text;
+
+  public:
+    VT::String_variable_obj variable;
+};
+
 /// A text that stays as it is, in an output string of its own.
 class Caption
 {
   public:
-    Caption(const char* words, VT::Comp::Font_attributes_obj& font)
-        : text(words), variable(VT::VT_obj::NULL_ID, nullptr, static_cast<std::uint16_t>(text.size()), text.data())
+    enum Justification : std::uint8_t { left, middle, right };
+
+    Caption(const char* text, VT::Comp::Font_attributes_obj& font) : words(text)
     {
         string.set_font(&font);
-        string.set_variable(&variable);
+        string.set_variable(&words.variable);
         string.options = 1; // transparent
     }
 
@@ -27,14 +43,12 @@ class Caption
         string.width = size.width;
         string.height = size.height;
     }
-    /// 0 left, 1 middle, 2 right.
     void set_justification(std::uint8_t horizontal) { string.justification = horizontal; }
 
     VT::VT_obj& root() { return string; }
 
   private:
-    std::string text;
-    VT::String_variable_obj variable;
+    Words words;
     VT::Comp::Output_string_obj string;
 };
 

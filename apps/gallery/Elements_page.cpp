@@ -12,11 +12,7 @@ namespace {
 constexpr std::uint8_t grey = 8;
 }
 
-// All lengths handed to at() and span() are quarters of the 24th part of the mask: 2.5 pixels on a mask of 240, 5 on
-// 480.
-
-Elements_page::Elements_page(Connection_elements& elements, std::uint16_t side)
-    : style(elements), mask_size(side), mask("elements", grey)
+Elements_page::Elements_page(Connection_elements& elements, std::uint16_t side) : Page("elements", grey, elements, side)
 {
     show_placements();
     show_backgrounds();
@@ -25,19 +21,11 @@ Elements_page::Elements_page(Connection_elements& elements, std::uint16_t side)
     show_covers();
 }
 
-void Elements_page::add_caption(const char* words, int x, int y, int width, std::uint8_t justification)
-{
-    Caption& caption = captions.emplace_back(words, style.font_1);
-    caption.set_size({span(width), span(4)});
-    caption.set_justification(justification);
-    mask.add(caption.root(), at(x), at(y));
-}
-
 void Elements_page::show_placements()
 {
     constexpr int width = 14, height = 11, left = 3, step = 15, top = 6;
-    const Dimension fitting{span(8), span(4)};
-    const Dimension overhanging{span(18), span(4)};
+    const Dimension fitting = area(8, 4);
+    const Dimension overhanging = area(18, 4);
     constexpr std::pair<Justification, const char*> ways[] = {
         {Justification::centre, "centre"}, {Justification::left, "left"}, {Justification::top, "top"}};
 
@@ -47,19 +35,13 @@ void Elements_page::show_placements()
     for (const Dimension size : {fitting, overhanging}) {
         for (const auto& [way, words] : ways) {
             Placed& shown = placed.emplace_back(way);
-            shown.content.width = size.width;
-            shown.content.height = size.height;
-            shown.content.set_fill(&style.fill_39);
-            shown.content.set_line(&style.line_black);
+            draw(shown.content, size, style.fill_39, style.line_black);
             shown.widget.set_content(&shown.content);
-            shown.widget.set_size({span(width), span(height)});
-            shown.box.width = span(width);
-            shown.box.height = span(height);
-            shown.box.set_fill(&style.fill_white);
-            shown.box.set_line(&style.line_none);
+            shown.widget.set_size(area(width, height));
+            draw(shown.box, area(width, height), style.fill_white, style.line_none);
             mask.add(shown.box, at(x), at(top));
             mask.add(shown.widget.root(), at(x), at(top));
-            add_caption(words, x, top + height, width, 1);
+            add_caption(words, x, top + height, step, Caption::middle);
             x += step;
         }
     }
@@ -110,7 +92,7 @@ void Elements_page::show_numbers()
         Output_string_obj& number = numbers[i];
         number.set_font(&style.font_1);
         number.options = 1; // transparent
-        number.justification = 2;
+        number.justification = Caption::right;
         number.width = span(width);
         number.height = span(height);
         if (i + 1 < numbers.size())
@@ -135,7 +117,7 @@ void Elements_page::show_covers()
         const int width = std::min(side, share);
         Caption& label = captions.emplace_back(std::to_string(side).c_str(), style.font_3);
         label.set_size({static_cast<std::uint16_t>(width), span(8)});
-        label.set_justification(1);
+        label.set_justification(Caption::middle);
         Covered& part = covered.emplace_back();
         part.children.placements[0].ref = &style.rect_green;
         part.children.placements[1] = {&label.root(), 0, at(4)};

@@ -1,10 +1,8 @@
 #ifndef GALLERY_ELEMENTS_PAGE_H
 #define GALLERY_ELEMENTS_PAGE_H
 
-#include "apps/gallery/Caption.h"
+#include "apps/gallery/Page.h"
 
-#include "vt/Mask_obj.h"
-#include "vtui/comp/Connection_elements.h"
 #include "vtui/comp/objects/Container_obj.h"
 #include "vtui/comp/objects/Has_child_placements.h"
 #include "vtui/comp/objects/Output_string_obj.h"
@@ -18,13 +16,10 @@ namespace gallery {
 
 /// The first page: content placed three ways, fitting and overhanging; the backgrounds and the bevel; numbers from the
 /// ready-made strings; the covers of all five sizes over something that is to look disabled.
-class Elements_page
+class Elements_page final : public Page
 {
   public:
-    /// `mask_size` is the side of the data mask in pixels; `style` has been given the same size.
-    Elements_page(VT::Comp::Connection_elements& style, std::uint16_t mask_size);
-
-    VT::Data_mask_obj& root() { return mask; }
+    Elements_page(VT::Comp::Connection_elements& elements, std::uint16_t side);
 
   private:
     struct Placed
@@ -48,21 +43,12 @@ class Elements_page
         VT::Comp::Child_placements_array<Array_array_3> children;
     };
 
-    std::int16_t at(int quarters) const { return static_cast<std::int16_t>(quarters * mask_size / 96); }
-    std::uint16_t span(int quarters) const { return static_cast<std::uint16_t>(quarters * mask_size / 96); }
-
     void show_placements();
     void show_backgrounds();
     void show_bevel();
     void show_numbers();
     void show_covers();
-    void add_caption(const char* words, int x, int y, int width, std::uint8_t justification = 0);
 
-    VT::Comp::Connection_elements& style;
-    const std::uint16_t mask_size;
-    VT::Data_mask_obj mask;
-
-    std::deque<Caption> captions;
     std::deque<Placed> placed;
     std::deque<Swatch> swatches;
     VT::Comp::Container_obj bevel;

@@ -24,6 +24,7 @@
 namespace {
 
 using gallery::Gallery;
+using gallery::Picture;
 
 constexpr std::uint16_t mask_sizes[] = {240, 480};
 
@@ -65,9 +66,9 @@ void draw_pages(std::uint16_t mask_size, const std::filesystem::path& folder, te
     hardware.mask_size = mask_size;
     apps::Loopback_link link(hardware);
     expect(gallery.pool().load(link));
-    for (VT::Mask_obj* page : gallery.pages()) {
-        gallery.show(*page);
-        const auto file = folder / (std::string(page->get_name()) + "-" + std::to_string(mask_size) + ".png");
+    for (const Picture& picture : gallery.pictures()) {
+        gallery.show(picture);
+        const auto file = folder / (picture.name + "-" + std::to_string(mask_size) + ".png");
         if (!renderer.draw(link.terminal).save(QString::fromStdString(file.string())))
             throw std::runtime_error("cannot write " + file.string());
         std::printf("  %s\n", file.c_str());

@@ -36,16 +36,16 @@ TEST_P(GalleryAtMaskSize, EveryPageLooksAsItDidWhenItWasLastLookedAt)
 {
     ASSERT_TRUE(gallery.pool().load(link));
     terminal::Renderer renderer;
-    for (VT::Mask_obj* page : gallery.pages()) {
-        gallery.show(*page);
-        const std::string name = std::string(page->get_name()) + "-" + std::to_string(GetParam());
-        EXPECT_TRUE(matches_golden(renderer.draw(link.terminal), name));
+    for (const gallery::Picture& picture : gallery.pictures()) {
+        gallery.show(picture);
+        EXPECT_TRUE(matches_golden(renderer.draw(link.terminal), picture.name + "-" + std::to_string(GetParam())));
     }
 }
 
 TEST_P(GalleryAtMaskSize, ComesBackAsItWasWhenTheLinkReturns)
 {
     ASSERT_TRUE(gallery.pool().load(link));
+    gallery.show(gallery.pictures().back());
     terminal::Renderer renderer;
     const QImage before = renderer.draw(link.terminal);
     link.set_down(true);
@@ -53,6 +53,31 @@ TEST_P(GalleryAtMaskSize, ComesBackAsItWasWhenTheLinkReturns)
     link.set_down(false);
     ASSERT_TRUE(gallery.pool().load(link));
     EXPECT_EQ(renderer.draw(link.terminal), before);
+}
+
+TEST_P(GalleryAtMaskSize, LooksTheSameWithoutATouchScreenWhereInputsShowThemselves)
+{
+    terminal::Hardware keys_only = hardware();
+    keys_only.touch = false;
+    apps::Loopback_link other_link(keys_only);
+    gallery::Gallery other(GetParam());
+    ASSERT_TRUE(other.pool().load(other_link));
+    ASSERT_TRUE(gallery.pool().load(link));
+    terminal::Renderer renderer;
+    const auto expect_equal = [&](const std::string& what) {
+        EXPECT_EQ(renderer.draw(link.terminal), renderer.draw(other_link.terminal)) << what;
+    };
+    for (std::size_t i = 0; i < gallery.pages().size(); ++i) {
+        gallery.show(*gallery.pages()[i]);
+        other.show(*other.pages()[i]);
+        expect_equal(gallery.pages()[i]->get_name());
+    }
+    const std::vector<gallery::Picture> pictures = gallery.pictures(), other_pictures = other.pictures();
+    for (std::size_t i = 0; i < pictures.size(); ++i) {
+        gallery.show(pictures[i]);
+        other.show(other_pictures[i]);
+        expect_equal(pictures[i].name);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(SmallAndLarge, GalleryAtMaskSize, testing::Values(240, 480));

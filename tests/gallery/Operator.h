@@ -1,0 +1,58 @@
+#ifndef TESTS_GALLERY_OPERATOR_H
+#define TESTS_GALLERY_OPERATOR_H
+
+#include "apps/Loopback_link.h"
+#include "apps/gallery/Gallery.h"
+#include "terminal/Area.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// The gallery at a terminal, and somebody who reads the screen, uses the soft keys and enters numbers.
+class Operator
+{
+  public:
+    /// Soft keys of the number pages, by their cells.
+    enum Key { units, up, down };
+
+    /// A text or a number as the terminal shows it, or a rectangle, which has no text.
+    struct Shown
+    {
+        std::string text;
+        terminal::Area area; ///< in the mask
+        Iso::Object_type type;
+        bool fits; ///< all of the text is inside its field, and that inside what shows it
+    };
+
+    explicit Operator(const terminal::Hardware& hardware = {});
+
+    /// Turns to the page of that name.
+    void turn_to(const std::string& page);
+    void press(Key key);
+    void release(Key key);
+    void use(Key key);
+    /// Enters a raw number into the page's input of that number, counted from 0 as they were placed.
+    void enter(std::size_t input, std::uint32_t raw);
+
+    /// Lays a finger on the middle of a text.
+    void touch(const std::string& text);
+    /// Ends the entry that is open with this number, in display units.
+    void type(const std::string& number);
+
+    /// Everything in the mask that is shown, in the order of drawing, except numbers that are covered.
+    std::vector<Shown> screen() const;
+    bool sees(const std::string& text) const;
+    /// The one that shows this text. Throws std::out_of_range if there is none.
+    Shown find(const std::string& text) const;
+    bool sees_rectangle(const terminal::Area& area) const;
+
+    apps::Loopback_link link;
+    gallery::Gallery gallery;
+
+  private:
+    void deliver();
+    Iso::Object_id id_of(Key key) const;
+};
+
+#endif
