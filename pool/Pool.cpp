@@ -109,7 +109,7 @@ Result Pool::prepare()
     added.clear();
     if (run.found_any()) {
         live = false;
-        routes.find_controls(objects);
+        routes.rebuild(objects);
     }
     return result;
 }
@@ -160,21 +160,28 @@ Result Pool::serialise(std::vector<std::uint8_t>& records)
 
 Result Pool::ask_hardware(Client::Terminal_link& terminal, std::chrono::milliseconds timeout)
 {
+    Result result = ask(terminal, timeout);
+    if (result)
+        routes.deliver_to_all(&*terminal_information);
+    return result;
+}
+
+Result Pool::ask(Client::Terminal_link& terminal, std::chrono::milliseconds timeout)
+{
     live = false; // the terminal forgets the pool
     Result result;
     Dialogue dialogue(terminal, result.errors);
     VT_information answer{};
-    if (dialogue.begin() && dialogue.ask_hardware(answer, timeout)) {
+    if (dialogue.begin() && dialogue.ask_hardware(answer, timeout))
         terminal_information = answer;
-        routes.deliver_to_all(&answer);
-    }
     return result;
 }
 
 Result Pool::load(Client::Terminal_link& terminal, const Progress& progress, const Timeouts& timeouts)
 {
     disconnect();
-    Result result = ask_hardware(terminal, timeouts.answer);
+    // Components are laid out already: what they would change on the answer comes too late.
+    Result result = ask(terminal, timeouts.answer);
     if (!result)
         return result;
     result = prepare();
@@ -219,8 +226,8 @@ Terminal_message Pool::receive(const std::uint8_t* received, std::size_t size)
 {
     Terminal_message decoded = decode(received, size);
     take_note(decoded);
-    if (!routes.are_found())
-        routes.find_controls(objects);
+    if (!routes.are_current())
+        routes.rebuild(objects);
     std::visit(
         [this](auto& received_event) {
             if constexpr (std::is_same_v<decltype(received_event), VT_information&>)
@@ -244,6 +251,8 @@ void Pool::take_note(const Terminal_message& received)
             input->value = entered->value;
             input->value.set_told(); // the terminal shows it already
         }
+    } else if (const auto* const information = std::get_if<VT_information>(&received)) {
+        terminal_information = *information;
     } else if (const auto* const response = std::get_if<Command_response>(&received)) {
         if (response->error)
             note(problem(Error::rejected_command, response->object_id,
@@ -290,7 +299,8 @@ void Pool::upload(VT_obj& object)
         lose_link("the record of " + describe(object));
 }
 
-/// Everything at once: the terminal must not show a number in its new place with its old units.
+/// Everything at once: the terminal must not show a number in its new place with its old units. It goes as deep as the
+/// screen nests, which the terminal has accepted.
 bool Pool::send_changes_below(VT_obj& object)
 {
     looked_at[object.get_id()] = true;

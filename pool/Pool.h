@@ -88,13 +88,13 @@ class VTUI_EXPORT Pool final : public vtui_pool
     /// their objects already.
     Result prepare();
 
-    /// Gives events to `component` from receive() on, to each of its operations handle_event() for which there is an
-    /// event: those that name a control inside the component (an object in its memory; of components inside each other
-    /// the innermost), what the terminal says of itself, and announced units. The component stays the application's and
-    /// is routed until unroute(), which comes before it is destroyed.
+    /// Gives `component` the events that it has a handle_event() for: those that name a control inside it (an object in
+    /// its memory; of components inside each other the innermost that handles such events), announced units, and what
+    /// ask_hardware() hears. Also those of `control`, which it keeps elsewhere. The component stays the application's;
+    /// no event is delivered to it after unroute(), which comes before it is destroyed if events may come later.
     ///
-    ///     pool.route(speed);               // Number_widget::handle_event(VT_change_numeric_value_event&) and others
-    ///     pool.route(page, *page.buttons); // a control that the page keeps elsewhere
+    /// The next message after that makes the table of routes anew, as prepare() does: it allocates and takes about as
+    /// long as sorting all controls and components.
     template <class Component>
     void route(Component& component)
     {
@@ -105,13 +105,15 @@ class VTUI_EXPORT Pool final : public vtui_pool
     {
         routes.add(component, control);
     }
+    /// False if it is not routed, as a component of this very type.
     template <class Component>
-    void unroute(Component& component)
+    bool unroute(Component& component)
     {
-        routes.remove(component);
+        return routes.remove(component);
     }
 
-    /// Systems of units have been chosen: brings the units texts up to date, then all routed components.
+    /// Systems of units have been chosen: brings the units texts up to date, then all routed components. What one of
+    /// them throws comes out here, and the rest have to be told by announcing again.
     void announce(Units_man& units);
 
     /// How many ids are given; one of an object that was destroyed counts.
@@ -121,8 +123,8 @@ class VTUI_EXPORT Pool final : public vtui_pool
     /// `records`. Nothing counts as told to the terminal.
     Result serialise(std::vector<std::uint8_t>& records);
 
-    /// Asks a terminal about itself, for laying out the screens before the pool is prepared; routed components hear the
-    /// answer. The terminal forgets what it knew of this working set.
+    /// Asks a terminal about itself, for laying out the screens before the pool is prepared. Routed components hear the
+    /// answer and are to be laid out after it. The terminal forgets what it knew of this working set.
     Result ask_hardware(Client::Terminal_link& terminal, std::chrono::milliseconds timeout = Timeouts().answer);
     /// What the terminal said last about itself.
     const std::optional<VT_information>& information() const { return terminal_information; }
@@ -174,6 +176,7 @@ class VTUI_EXPORT Pool final : public vtui_pool
         String_variable_obj object;
     };
 
+    Result ask(Client::Terminal_link& terminal, std::chrono::milliseconds timeout);
     void take_note(const Terminal_message& received);
     bool send_record(VT_obj& object);
     bool send_changes_below(VT_obj& object);

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <numeric>
 
 namespace VT {
 
@@ -34,23 +33,34 @@ bool lies_before(const void* a, const void* b) { return std::less<>()(a, b); }
 
 void Routes::add(const Route& route)
 {
-    const auto is_known = [&](const Route& r) {
-        return r.component == route.component && r.begin == route.begin && r.hand_over == route.hand_over;
+    const auto is_the_same = [&](const Route& r) {
+        return r.component == route.component && r.hand_over == route.hand_over && r.begin == route.begin &&
+               r.size == route.size;
     };
-    if (std::any_of(routes.begin(), routes.end(), is_known))
+    if (std::any_of(routes.begin(), routes.end(), is_the_same))
         return;
-    routes.push_back(route);
-    found = false;
+    const auto is_removed = [](const Route& r) { return !r.component; };
+    const auto free = std::find_if(routes.begin(), routes.end(), is_removed);
+    if (free != routes.end())
+        *free = route;
+    else
+        routes.push_back(route);
+    current = false;
 }
 
-void Routes::remove(void* component, Hand_over way)
+bool Routes::remove(const void* component, Hand_over hand_over_)
 {
-    const auto is_its = [=](const Route& r) { return r.component == component && r.hand_over == way; };
-    routes.erase(std::remove_if(routes.begin(), routes.end(), is_its), routes.end());
-    found = false;
+    bool any = false;
+    for (Route& route : routes)
+        if (route.component == component && route.hand_over == hand_over_) {
+            route.component = nullptr;
+            route.events = 0;
+            any = true;
+        }
+    return any;
 }
 
-void Routes::find_controls(const Object_table& objects)
+void Routes::rebuild(const Object_table& objects)
 {
     std::vector<const VT_obj*> controls;
     for (std::size_t place = 0; place < objects.size(); ++place)
@@ -58,29 +68,44 @@ void Routes::find_controls(const Object_table& objects)
             controls.push_back(objects[place]);
     std::sort(controls.begin(), controls.end(), lies_before);
 
-    // Of memory inside other memory the inner one is smaller: it comes later and stays.
-    std::vector<std::uint32_t> by_size(routes.size());
-    std::iota(by_size.begin(), by_size.end(), 0U);
-    std::stable_sort(by_size.begin(), by_size.end(),
-                     [this](std::uint32_t a, std::uint32_t b) { return routes[a].size > routes[b].size; });
+    // In the order of their memory, what contains others before them.
+    std::vector<std::uint32_t> order;
+    for (std::uint32_t i = 0; i < routes.size(); ++i)
+        if (routes[i].component)
+            order.push_back(i);
+    std::stable_sort(order.begin(), order.end(), [this](std::uint32_t a, std::uint32_t b) {
+        return routes[a].begin != routes[b].begin ? lies_before(routes[a].begin, routes[b].begin)
+                                                  : routes[a].size > routes[b].size;
+    });
 
     route_of.assign(objects.ids(), nobody);
-    for (const std::uint32_t index : by_size) {
-        const Route& route = routes[index];
-        const void* const end = static_cast<const char*>(route.begin) + route.size;
-        auto control = std::lower_bound(controls.begin(), controls.end(), route.begin, lies_before);
-        for (; control != controls.end() && lies_before(*control, end); ++control)
-            route_of[(*control)->get_id()] = index;
+    std::uint32_t around = nobody; // the innermost memory that contains the present address
+    const auto leave_what_ends_before = [&](const void* address) {
+        const auto has_ended = [&](const Route& r) {
+            return !lies_before(address, static_cast<const char*>(r.begin) + r.size);
+        };
+        while (around != nobody && has_ended(routes[around]))
+            around = routes[around].outer;
+    };
+    auto next = order.begin();
+    for (const VT_obj* const control : controls) {
+        for (; next != order.end() && !lies_before(control, routes[*next].begin); ++next) {
+            leave_what_ends_before(routes[*next].begin);
+            routes[*next].outer = around;
+            around = *next;
+        }
+        leave_what_ends_before(control);
+        route_of[control->get_id()] = around;
     }
-    found = true;
+    current = true;
 }
 
 void Routes::deliver_to_all(const Event& event) const
 {
-    // A component may route others while it handles the event.
+    // A component may route others, or no longer itself, while it handles the event.
     for (std::size_t i = 0; i < routes.size(); ++i)
-        if (routes[i].begin == routes[i].component)
-            routes[i].deliver(event);
+        if (routes[i].component && routes[i].begin == routes[i].component)
+            routes[i].hand_over(routes[i].component, event);
 }
 
 } // namespace VT

@@ -24,53 +24,63 @@ using Event = std::variant<Soft_key_activation_event*, Button_activation_event*,
                            VT_change_string_value_event*, Select_input_object_event*, Esc_event*, const VT_information*,
                            Units_man*>;
 
-/// Which component an event goes to: the innermost one in whose memory the object lies which the event names.
-/// Components are not owned.
+/// Which component an event goes to: of those in whose memory the object lies which the event names, the innermost that
+/// handles such events. Components are not owned.
 class VTUI_EXPORT Routes
 {
   public:
     template <class Component>
     void add(Component& component)
     {
-        static_assert(handles_any<Component>(static_cast<Event*>(nullptr)), "the component has no handle_event()");
-        add({std::addressof(component), std::addressof(component), sizeof component, &hand_over<Component>});
+        check<Component>();
+        add({std::addressof(component), std::addressof(component), sizeof component, handled<Component>(every_event),
+             &hand_over<Component>});
     }
-    /// Leads an object that the component keeps elsewhere to it.
+    /// Leads an object that the component keeps elsewhere to it, too.
     template <class Component>
     void add(Component& component, const VT_obj& object)
     {
-        static_assert(handles_any<Component>(static_cast<Event*>(nullptr)), "the component has no handle_event()");
-        add({std::addressof(component), &object, 1, &hand_over<Component>});
+        add(component);
+        add({std::addressof(component), &object, 1, handled<Component>(every_event), &hand_over<Component>});
     }
+    /// False if it was not added as one of that type.
     template <class Component>
-    void remove(Component& component)
+    bool remove(Component& component)
     {
-        remove(std::addressof(component), &hand_over<Component>);
+        return remove(std::addressof(component), &hand_over<Component>);
     }
 
-    /// Finds out whose each control of the pool is. Needed again when the table or the routes have changed.
-    void find_controls(const Object_table& objects);
-    bool are_found() const { return found; }
+    /// Finds out whose each control of the pool is.
+    void rebuild(const Object_table& objects);
+    /// False when routes have changed since.
+    bool are_current() const { return current; }
 
-    /// Hands an event to the component of that object, if there is one.
+    /// Hands an event to the component that it concerns, if there is one.
     void deliver(Iso::Object_id object, const Event& event) const
     {
-        if (object < route_of.size() && route_of[object] != nobody)
-            routes[route_of[object]].deliver(event);
+        const std::uint32_t wanted = 1U << event.index();
+        std::uint32_t index = object < route_of.size() ? route_of[object] : nobody;
+        while (index != nobody && !(routes[index].events & wanted))
+            index = routes[index].outer;
+        if (index != nobody)
+            routes[index].hand_over(routes[index].component, event);
     }
     void deliver_to_all(const Event& event) const;
 
   private:
     using Hand_over = void (*)(void* component, const Event& event);
 
+    static constexpr std::uint32_t nobody = ~std::uint32_t{0};
+
+    /// Memory that leads to a component. A removed one keeps its place, because events may be under way.
     struct Route
     {
-        void* component;
-        const void* begin; ///< of the memory that leads to it
+        void* component; ///< null: removed
+        const void* begin;
         std::size_t size;
+        std::uint32_t events; ///< handled ones, a bit each
         Hand_over hand_over;
-
-        void deliver(const Event& event) const { hand_over(component, event); }
+        std::uint32_t outer{nobody}; ///< the route whose memory contains this one's
     };
 
     template <class Component, class E, class = void>
@@ -81,10 +91,37 @@ class VTUI_EXPORT Routes
         : std::true_type
     {};
 
+    static constexpr Event* every_event = nullptr;
+
     template <class Component, class... E>
-    static constexpr bool handles_any(std::variant<E*...>*)
+    static constexpr std::uint32_t handled(std::variant<E*...>*)
     {
-        return (Handles<Component, E>::value || ...);
+        std::uint32_t bits = 0;
+        std::uint32_t bit = 1;
+        ((bits |= Handles<Component, E>::value ? bit : 0, bit <<= 1), ...);
+        return bits;
+    }
+
+    template <class Component, class... E>
+    static constexpr bool handles_all(Event_list<E...>)
+    {
+        return (Handles<Component, E>::value && ...);
+    }
+
+    template <class Component, class = void>
+    struct Keeps_its_word : std::true_type
+    {};
+    template <class Component>
+    struct Keeps_its_word<Component, std::void_t<typename Component::Handled_events>>
+        : std::bool_constant<handles_all<Component>(typename Component::Handled_events())>
+    {};
+
+    template <class Component>
+    static constexpr void check()
+    {
+        static_assert(handled<Component>(every_event) != 0, "the component has no handle_event()");
+        static_assert(Keeps_its_word<Component>::value,
+                      "a handle_event() of the component's base is hidden: add `using Base::handle_event;`");
     }
 
     template <class Component>
@@ -99,13 +136,11 @@ class VTUI_EXPORT Routes
     }
 
     void add(const Route& route);
-    void remove(void* component, Hand_over way);
-
-    static constexpr std::uint32_t nobody = ~std::uint32_t{0};
+    bool remove(const void* component, Hand_over hand_over_);
 
     std::vector<Route> routes;
     std::vector<std::uint32_t> route_of; ///< by object id
-    bool found{true};
+    bool current{true};
 };
 
 } // namespace VT

@@ -35,6 +35,7 @@ constexpr std::uint64_t to_uint64(double value)
 
 /// Halves go to the even neighbour.
 inline std::int32_t round_to_int32(double value) { return to_int32(std::rint(value)); }
+inline std::uint32_t round_to_uint32(double value) { return to_uint32(std::rint(value)); }
 inline std::int64_t round_to_int64(double value) { return to_int64(std::rint(value)); }
 
 /// The lowest number has no positive counterpart and stays what it is.

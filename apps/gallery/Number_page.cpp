@@ -76,7 +76,7 @@ Number_widget::Style Number_page::look(std::uint32_t layout, VT::VT_obj& backdro
 {
     Number_widget::Style fields;
     fields.number_font = &style.font_3;
-    fields.units_font = &style.font_2;
+    fields.units_font = &style.font_1;
     fields.backdrop = &backdrop;
     fields.layout = layout;
     return fields;

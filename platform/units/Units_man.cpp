@@ -26,7 +26,7 @@ constexpr double pascals_per_psi = kilograms_per_pound * standard_gravity / (met
 
 struct Units
 {
-    const char* text;
+    const char* text; ///< begins with the space between number and units, if there is any
     double factor;
 };
 
@@ -36,43 +36,40 @@ struct Quantity
     std::array<Units, Units_man::number_of_systems> units;
 };
 
-constexpr Quantity the_same(const char* name, const char* text) { return {name, {{{text, 1}, {text, 1}, {text, 1}}}}; }
+constexpr Quantity in_all(const char* name, const char* text) { return {name, {{{text, 1}, {text, 1}, {text, 1}}}}; }
 
-constexpr Quantity two(const char* name, const char* metric, const char* other, double factor)
+constexpr Quantity metric_or(const char* name, const char* metric, const char* other, double factor)
 {
     return {name, {{{metric, 1}, {other, factor}, {other, factor}}}};
 }
 
-/// Imperial and US gallons go by one name and differ by a fifth.
-constexpr Quantity in_gallons(const char* name, const char* litres, const char* gallons, double per_metric_rest)
+/// Imperial and US gallons go by one name and differ by a fifth. `per` is the factor of what the litres are counted in.
+constexpr Quantity in_gallons(const char* name, const char* litres, const char* gallons, double per)
 {
-    return {name,
-            {{{litres, 1},
-              {gallons, per_metric_rest / litres_per_imperial_gallon},
-              {gallons, per_metric_rest / litres_per_us_gallon}}}};
+    return {name, {{{litres, 1}, {gallons, per / litres_per_imperial_gallon}, {gallons, per / litres_per_us_gallon}}}};
 }
 
 constexpr std::array<Quantity, Units_man::number_of_types> quantities{{
-    the_same("no units", ""),
-    two("units of speed", "km/h", "mph", 1 / kilometres_per_mile),
-    two("units of long distance", "km", "mi", 1 / kilometres_per_mile),
-    two("units of short distance", "m", "ft", 1 / metres_per_foot),
-    two("units of area", "ha", "ac", 1 / hectares_per_acre),
-    two("units of area rate", "ha/h", "ac/h", 1 / hectares_per_acre),
-    in_gallons("units of volume", "l", "gal", 1),
-    in_gallons("units of volume flow", "l/min", "gal/min", 1),
-    in_gallons("units of volume per area", "l/ha", "gal/ac", hectares_per_acre),
-    two("units of mass", "kg", "lb", 1 / kilograms_per_pound),
-    two("units of mass flow", "kg/min", "lb/min", 1 / kilograms_per_pound),
-    two("units of mass per area", "kg/ha", "lb/ac", hectares_per_acre / kilograms_per_pound),
-    two("units of count per area", "1/ha", "1/ac", hectares_per_acre),
-    two("units of pressure", "bar", "psi", pascals_per_bar / pascals_per_psi),
-    two("units of temperature difference", "\260C", "\260F", fahrenheit_per_celsius), // the degree sign in ISO 8859-1
-    the_same("units of rotational speed", "rpm"),
-    the_same("units of percentage", "%"),
-    the_same("units of voltage", "V"),
-    the_same("units of current", "A"),
-    the_same("units of time", "s"),
+    in_all("no units", ""),
+    metric_or("units of speed", " km/h", " mph", 1 / kilometres_per_mile),
+    metric_or("units of long distance", " km", " mi", 1 / kilometres_per_mile),
+    metric_or("units of short distance", " m", " ft", 1 / metres_per_foot),
+    metric_or("units of area", " ha", " ac", 1 / hectares_per_acre),
+    metric_or("units of area rate", " ha/h", " ac/h", 1 / hectares_per_acre),
+    in_gallons("units of volume", " L", " gal", 1),
+    in_gallons("units of volume flow", " L/min", " gal/min", 1),
+    in_gallons("units of volume per area", " L/ha", " gal/ac", hectares_per_acre),
+    metric_or("units of mass", " kg", " lb", 1 / kilograms_per_pound),
+    metric_or("units of mass flow", " kg/min", " lb/min", 1 / kilograms_per_pound),
+    metric_or("units of mass per area", " kg/ha", " lb/ac", hectares_per_acre / kilograms_per_pound),
+    metric_or("units of count per area", " 1/ha", " 1/ac", hectares_per_acre),
+    metric_or("units of pressure", " bar", " psi", pascals_per_bar / pascals_per_psi),
+    metric_or("units of temperature difference", " K", " \260F", fahrenheit_per_celsius), // °F
+    in_all("units of rotational speed", " rpm"),
+    in_all("units of percentage", " %"),
+    in_all("units of voltage", " V"),
+    in_all("units of current", " A"),
+    in_all("units of time", " s"),
 }};
 
 void write(VT::String_variable_obj& string, const char* text)
@@ -89,7 +86,8 @@ const double& Units_man::get(units_systems system, units_type type)
 
 const char* Units_man::get_text(units_systems system, units_type type)
 {
-    return quantities.at(type).units.at(system).text;
+    const char* const text = quantities.at(type).units.at(system).text;
+    return *text == ' ' ? text + 1 : text;
 }
 
 VT::String_variable_obj* Units_man::get_units_string(VT::vtui_pool* pool, units_type type)

@@ -18,7 +18,7 @@ class String_variable_obj;
 ///     units.set_system_type(Units_man::speed, Units_man::us);
 ///     pool.announce(units); // components and units texts follow
 ///
-/// A quantity or system outside its enumeration throws std::out_of_range.
+/// A quantity or system outside its enumeration throws std::out_of_range here.
 class VTUI_EXPORT Units_man
 {
   public:
@@ -33,15 +33,15 @@ class VTUI_EXPORT Units_man
         distance_short,         ///< m
         area,                   ///< ha
         area_rate,              ///< ha/h
-        volume,                 ///< l
-        volume_flow,            ///< l/min
-        volume_per_area,        ///< l/ha
+        volume,                 ///< L: a small l would be read as a 1
+        volume_flow,            ///< L/min
+        volume_per_area,        ///< L/ha
         mass,                   ///< kg
         mass_flow,              ///< kg/min
         mass_per_area,          ///< kg/ha
         count_per_area,         ///< 1/ha
         pressure,               ///< bar
-        temperature_difference, ///< °C
+        temperature_difference, ///< K: no zero is shifted, so not for temperatures
         rotational_speed,       ///< rpm
         percent,                ///< %
         voltage,                ///< V
@@ -55,8 +55,9 @@ class VTUI_EXPORT Units_man
     /// The text of the units, in ISO 8859-1; empty for a quantity without.
     static const char* get_text(units_systems system, units_type type);
 
-    /// The string variable with the units text of a quantity. The pool owns one for all components; it says the metric
-    /// text until the pool is told of other systems. Null without a pool, and for a quantity without units.
+    /// The string variable with the units text of a quantity, a space before it to part it from a number. The pool owns
+    /// one for all components; it says the metric text until other systems are announced. Null without a pool, and for
+    /// a quantity without units.
     static VT::String_variable_obj* get_units_string(VT::vtui_pool* pool, units_type type);
 
     /// The system chosen for a quantity; metric at first.

@@ -33,15 +33,23 @@ struct VT_change_numeric_value_event
     std::uint32_t value;      ///< raw units
 };
 
-/// What a terminal says about itself: its answer to Get Hardware, field by field.
+/// What a terminal says about itself: its answer to Get Hardware, field by field. Byte 0 is the function.
 struct VT_information
 {
+    static constexpr std::uint8_t touch_screen = 1; ///< among the options
+
     std::uint8_t boot_time;    ///< byte 1: seconds until it is ready; 255 if it does not say
     std::uint32_t code;        ///< byte 2, the kind of graphics: 0 two colours, 1 sixteen, 2 256; others a maker's own
-    std::uint8_t options;      ///< byte 3, the hardware: bit 0 a touch screen, bit 1 a pointing device
+    std::uint8_t options;      ///< byte 3, the hardware: bit 0 a touch screen, bit 1 a pointer
     std::uint16_t mask_width;  ///< bytes 4 and 5: pixels
     std::uint16_t mask_height; ///< bytes 6 and 7: pixels
 };
+
+/// Names the events that a component's handle_event() takes, as its type Handled_events. A class derived from it that
+/// hides one of them by a handle_event() of its own does not compile where it is routed, instead of losing events.
+template <class... Events>
+struct Event_list
+{};
 
 } // namespace VT
 

@@ -10,6 +10,9 @@ namespace VT {
 class VTUI_EXPORT Field_obj : public Sized_obj, public Macro_list
 {
   public:
+    static constexpr std::uint8_t transparent = 1;          ///< among the options
+    enum Horizontal : std::uint8_t { left, middle, right }; ///< in the lower bits of the justification
+
     Attribute_colour background_colour;
     Attribute_object_id_spec font_attributes;
     Attribute_object_id_spec variable_reference;

@@ -5,7 +5,6 @@
 namespace VT {
 
 namespace {
-constexpr std::uint8_t enabled = 1;
 constexpr Attribute_info min_info{"min_value", 7};
 constexpr Attribute_info max_info{"max_value", 8};
 } // namespace

@@ -22,6 +22,8 @@ class VTUI_EXPORT Input_number_obj : public Number_field_obj
           options_2(second_options), min_value(min), max_value(max)
     {}
 
+    static constexpr std::uint8_t enabled = 1; ///< among options_2
+
     Attribute_uint8 options_2;  ///< 1 enabled, 2 real-time editing
     Attribute_uint32 min_value; ///< raw units
     Attribute_uint32 max_value; ///< raw units

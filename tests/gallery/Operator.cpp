@@ -69,8 +69,8 @@ void collect(const terminal::Object_pool& pool, Object parent, Position place, c
 
 Operator::Operator(const terminal::Hardware& hardware) : link(hardware), gallery(hardware.mask_size)
 {
-    const VT::Result loaded = gallery.pool().load(link);
-    EXPECT_TRUE(loaded) << loaded.text();
+    for (const VT::Result& result : {gallery.pool().ask_hardware(link), gallery.pool().load(link)})
+        EXPECT_TRUE(result) << result.text();
 }
 
 void Operator::turn_to(const std::string& page)

@@ -1,7 +1,7 @@
 #ifndef VTUI_COMP_DIMENSION_H
 #define VTUI_COMP_DIMENSION_H
 
-#include "vt/VT_obj.h"
+#include "vt/Sized_obj.h"
 
 #include <cstdint>
 
@@ -31,11 +31,18 @@ static_assert(sizeof(Dimension) == 4 && sizeof(Point) == 4, "both travel by valu
 
 inline Dimension size_of(const VT::VT_obj& object) { return {object.get_width(), object.get_height()}; }
 
-/// Where something of that size starts to lie in the middle of what is available; negative when it is too large.
-constexpr std::int16_t centred(std::uint16_t available, std::uint16_t size)
+/// Sends nothing.
+inline void resize(VT::Sized_obj& object, Dimension size)
 {
-    return static_cast<std::int16_t>((int{available} - int{size}) / 2);
+    object.width = size.width;
+    object.height = size.height;
 }
+
+/// Positions have 16 bits, as in the placements that are sent; what is larger wraps around.
+constexpr std::int16_t position(int pixels) { return static_cast<std::int16_t>(pixels); }
+
+/// Where something of that size starts to lie in the middle of what is available; negative when it is too large.
+constexpr std::int16_t centred(std::uint16_t available, std::uint16_t size) { return position((available - size) / 2); }
 
 } // namespace VT::Comp
 

@@ -32,24 +32,30 @@ void Bordered_number_widget::construct(Line_attributes_obj* line, Fill_attribute
     container.placements_ptr = &placements;
 }
 
+void Bordered_number_widget::handle_event(Units_man& units_man)
+{
+    number.handle_event(units_man);
+    set_size(get_size());
+    container.upload(true);
+}
+
 Dimension Bordered_number_widget::get_preferred_size() const
 {
-    constexpr int margins = 2 * 2;
+    constexpr int margin = 2; // on every side
     const Dimension inner = number.get_preferred_size();
-    return {static_cast<std::uint16_t>(inner.width + margins), static_cast<std::uint16_t>(inner.height + margins)};
+    return {static_cast<std::uint16_t>(inner.width + 2 * margin),
+            static_cast<std::uint16_t>(inner.height + 2 * margin)};
 }
 
 void Bordered_number_widget::set_size(Dimension size)
 {
-    container.width = size.width;
-    container.height = size.height;
+    resize(container, size);
     number.set_size(size);
 
     const Dimension frame = get_preferred_size();
-    border.width = frame.width;
-    border.height = frame.height;
+    resize(border, frame);
     Child_placement& placed = placements.placements[1];
-    placed.x = number.layout == Number_widget::right_aligned ? static_cast<std::int16_t>(size.width - frame.width)
+    placed.x = number.layout == Number_widget::right_aligned ? position(size.width - frame.width)
                                                              : centred(size.width, frame.width);
     placed.y = centred(size.height, frame.height);
     placements.deref();

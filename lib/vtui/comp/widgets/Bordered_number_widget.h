@@ -6,8 +6,10 @@
 
 namespace VT::Comp {
 
-/// A number field with a rectangle around number and units, two pixels off. Events go to the field inside: route
-/// `number`. After a switch of units the application calls set_size() again, for the rectangle to follow.
+/// A number field in a rectangle that is four pixels wider and higher than number and units. The rectangle stands at
+/// the right edge where they are right-aligned, otherwise in the middle: in a field larger than the preferred size it
+/// goes around a centred or stacked number only. What the operator enters is in get_value(); who is to hear of it
+/// routes `number.input_number` to itself and passes the event on.
 class VTUI_EXPORT Bordered_number_widget
 {
   public:
@@ -42,10 +44,18 @@ class VTUI_EXPORT Bordered_number_widget
     void decrement(double step) { number.decrement(step); }
     bool is_input(unsigned short id) const { return number.is_input(id); }
 
+    // As those of Number_widget; for a switch of units the border follows.
+
+    using Handled_events = Number_widget::Handled_events;
+
+    void handle_event(VT_change_numeric_value_event& event) { number.handle_event(event); }
+    void handle_event(const VT_information& terminal) { number.handle_event(terminal); }
+    void handle_event(Units_man& units_man);
+
     /// Pixels: number, units and the border.
     Dimension get_preferred_size() const;
-    /// Makes the field `size` pixels large; the border hugs number and units where they lie. Sends nothing: in a live
-    /// pool follow with root().upload(true). Ends the process if there is no backdrop.
+    /// Makes the field `size` pixels large. Sends nothing: in a live pool follow with root().upload(true). Ends the
+    /// process if there is no backdrop.
     void set_size(Dimension size);
     void set_preferred_size() { set_size(get_preferred_size()); }
     Dimension get_size() const { return size_of(container); }

@@ -3,6 +3,7 @@
 
 #include "vtui/comp/widgets/Number_widget.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace VT::Comp {
@@ -19,7 +20,7 @@ class VTUI_EXPORT Labelled_input_widget
     explicit Labelled_input_widget(Font_attributes_obj* font, VT::String_variable_obj* text, Arguments&&... arguments)
         : input(std::forward<Arguments>(arguments)...)
     {
-        label.options = 1; // transparent
+        label.options = VT::Field_obj::transparent;
         label.set_font(font);
         label.set_variable(text);
         placements.placements[0] = {&input.root(), 0, 0};
@@ -27,10 +28,11 @@ class VTUI_EXPORT Labelled_input_widget
         container.placements_ptr = &placements;
     }
 
-    /// Pixels: the label above the input.
+    /// Pixels: the label, with room for all the characters that its variable may have, above the input; no margin.
     Dimension get_preferred_size() const;
-    /// Makes the field `size` pixels large, with the label at `margin` from the top left corner and the input's
-    /// contents below it. Sends nothing: in a live pool follow with root().upload(true).
+    /// Makes the field `size` pixels large, with the label `margin` away from the top left corner and the input's
+    /// contents below it, moved by as much: what hugs the right edge then overhangs. Sends nothing: in a live pool
+    /// follow with root().upload(true).
     void set_size(Dimension size, Dimension margin);
     /// Shows another text; sends Change Attribute if the pool is live.
     void set_label(VT::String_variable_obj* text) { label.set_variable(text); }
@@ -44,6 +46,30 @@ class VTUI_EXPORT Labelled_input_widget
     Font_attributes_obj*& label_font{label.font};
     Input input;
 };
+
+template <class Input>
+Dimension Labelled_input_widget<Input>::get_preferred_size() const
+{
+    const Dimension below = input.get_preferred_size();
+    if (!label_variable || !label_font)
+        return below;
+    const Dimension line = text_size(label_variable->get_length(), label_font);
+    return {std::max(below.width, line.width), static_cast<std::uint16_t>(line.height + below.height)};
+}
+
+template <class Input>
+void Labelled_input_widget<Input>::set_size(Dimension size, Dimension margin)
+{
+    const std::uint16_t line = text_size(0, label_font).height;
+    resize(container, size);
+    resize(label, {size.width, line}); // overhangs by the margin
+
+    const std::uint16_t strip = input.get_preferred_size().height;
+    input.set_size(size, {size.width, strip}, {position(margin.width), position(line + margin.height)});
+    placements.placements[1].x = position(margin.width);
+    placements.placements[1].y = position(margin.height);
+    placements.deref();
+}
 
 extern template class Labelled_input_widget<Number_widget>;
 

@@ -18,9 +18,6 @@ constexpr std::size_t backdrop_slot = 1;
 constexpr std::size_t number_slot = 2; ///< what the operator reads
 constexpr std::size_t units_slot = 3;
 
-constexpr std::uint8_t transparent = 1;
-enum Justification : std::uint8_t { left, middle, right };
-
 constexpr auto source = "../../../vtui/comp/widgets/Number_widget";
 
 constexpr double lowest_offset = std::numeric_limits<std::int32_t>::min();
@@ -30,16 +27,6 @@ constexpr double most_steps = std::numeric_limits<std::uint32_t>::max();
 using Specification = Number_widget::Specification;
 
 bool is_bounded(const Specification& s) { return !(s.min == 0 && s.max == 0); }
-
-Dimension text_size(std::uint16_t characters, const Font_attributes_obj* font)
-{
-    if (!font)
-        return {};
-    return {static_cast<std::uint16_t>(characters * font->get_font_width()), font->get_font_height()};
-}
-
-/// Positions have 16 bits, as in the placements that are sent; what is larger wraps around.
-constexpr std::int16_t position(int pixels) { return static_cast<std::int16_t>(pixels); }
 
 } // namespace
 
@@ -73,19 +60,22 @@ void Number_widget::construct(const Style& style, const Specification& s0, const
     std::fill(std::begin(units_variables), std::end(units_variables), units_text);
 
     input_number.set_font(style.number_font);
-    input_number.options = transparent;
+    input_number.options = VT::Field_obj::transparent;
     output_number.set_font(style.number_font);
-    output_number.options = transparent;
-    input_number.set_enabled(style.input);
+    output_number.options = VT::Field_obj::transparent;
+    constexpr std::uint8_t enabled = VT::Input_number_obj::enabled;
+    input_number.options_2 =
+        static_cast<std::uint8_t>(style.input ? input_number.options_2 | enabled : input_number.options_2 & ~enabled);
     units.set_font(style.units_font);
-    units.options = transparent;
+    units.options = VT::Field_obj::transparent;
 
     layout = style.layout;
     const bool beside = layout < stacked;
-    input_number.justification = beside ? right : middle;
-    output_number.justification = beside ? right : middle;
-    units.justification = beside ? left : middle;
+    input_number.justification = beside ? VT::Field_obj::right : VT::Field_obj::middle;
+    output_number.justification = beside ? VT::Field_obj::right : VT::Field_obj::middle;
+    units.justification = beside ? VT::Field_obj::left : VT::Field_obj::middle;
 
+    // A field that is no input has its backdrop twice: there are four slots, and none may be empty.
     VT::VT_obj* const lowest = style.input ? &input_number : style.backdrop;
     placements.placements[touch_slot] = {lowest, 0, 0};
     placements.placements[backdrop_slot] = {style.backdrop, 0, 0};
@@ -123,10 +113,11 @@ Dimension Number_widget::get_preferred_number_size() const
     int characters = s.decimals == 0 ? 1 : s.decimals + 2;
     if (!is_bounded(s) || s.min < 0)
         ++characters;
-    // Rounded, not rounded up: with the leading digit it is enough, and at times one more than that. The logarithm of
-    // 0, or of limits beyond 32 bits, is no number and adds no digit.
+    // Rounded, not rounded up: with the leading digit it is enough, and at times one more than that. Limits beyond 32
+    // bits have no magnitude above 0 and add no digit.
     const std::int32_t largest = std::max(magnitude(to_int32(s.min)), magnitude(to_int32(s.max)));
-    characters += static_cast<std::int16_t>(Conversion::round_to_int32(std::log10(static_cast<double>(largest))));
+    if (largest > 0)
+        characters += static_cast<int>(std::rint(std::log10(largest)));
     return text_size(static_cast<std::uint16_t>(characters), output_font);
 }
 
@@ -145,15 +136,11 @@ void Number_widget::set_size(Dimension size, Dimension new_layout_size, Point or
     layout_size = new_layout_size;
     layout_origin = origin;
 
-    const auto give = [](VT::Sized_obj& object, Dimension area) {
-        object.width = area.width;
-        object.height = area.height;
-    };
     const Dimension number = get_preferred_number_size();
-    give(container, size);
-    give(units, get_preferred_units_size());
-    give(output_number, number);
-    give(input_number, placements.placements[number_slot].ref == &input_number ? number : size);
+    resize(container, size);
+    resize(units, get_preferred_units_size());
+    resize(output_number, number);
+    resize(input_number, placements.placements[number_slot].ref == &input_number ? number : size);
     set_layout(layout_size, layout_origin);
 }
 
@@ -161,7 +148,7 @@ void Number_widget::set_layout(Dimension box, Point origin)
 {
     Child_placement& number = placements.placements[number_slot];
     Child_placement& text = placements.placements[units_slot];
-    const Dimension n = size_of(*number.ref);
+    const Dimension n = number.ref ? size_of(*number.ref) : Dimension(); // deref() ends the process
     const Dimension t = size_of(units);
 
     const auto centre_vertically = [&] {
@@ -221,7 +208,7 @@ void Number_widget::set_system(Units_man::units_systems new_system)
         if (!(s.max > s.min))
             Fatal::assertion("max > min", source, 37, __PRETTY_FUNCTION__);
         const double range = s.max - s.min;
-        // Whole display units only, and none where they take more than 32 bits: such a range always passes.
+        // Counts whole display units, and none where they take more than 32 bits: such a range passes.
         if (Conversion::magnitude(Conversion::to_int32(range)) / s.scale > most_steps)
             Fatal::assertion("false", source, 48, __PRETTY_FUNCTION__);
         offset = s.min / s.scale;
@@ -234,10 +221,15 @@ void Number_widget::set_system(Units_man::units_systems new_system)
     for (VT::Number_field_obj* const number : numbers)
         number->set_offset(Conversion::round_to_int32(offset));
     input_number.set_min_value(0);
-    input_number.set_max_value(Conversion::to_uint32(std::rint(steps)));
+    input_number.set_max_value(Conversion::round_to_uint32(steps));
 
     units.set_variable(units_variables[system]);
     set_value(value);
+}
+
+bool Number_widget::is_child(const VT::VT_obj& number)
+{
+    return placements.placements[touch_slot].ref == &number || placements.placements[number_slot].ref == &number;
 }
 
 void Number_widget::set_value(double v)
@@ -253,8 +245,7 @@ void Number_widget::set_value(double v)
     const double scale = input_number.scale;
     const std::uint32_t raw = Conversion::to_uint32(std::rint(display / scale) - output_number.offset);
     output_number.set_value(raw);
-    if (placements.placements[touch_slot].ref == &input_number ||
-        placements.placements[number_slot].ref == &input_number)
+    if (is_child(input_number))
         input_number.set_value(raw);
 }
 
@@ -268,7 +259,7 @@ void Number_widget::handle_input(unsigned int raw)
 {
     output_number.set_value(raw);
     const Specification& s = specifications[system];
-    // The specification's own numbers: more exact than the float scale and the whole offset that the terminal has.
+    // With the specification's own numbers. The terminal rounds min to whole steps for its offset.
     const double display = raw * s.scale + s.min;
     value = display / Units_man::get(system, s.units_type);
     handle_input_value(value);
@@ -284,9 +275,8 @@ void Number_widget::handle_event(VT_change_numeric_value_event& event)
 
 void Number_widget::handle_event(const VT_information& terminal)
 {
-    constexpr unsigned touch_screen = 1;
-    constexpr std::uint32_t finds_covered_inputs = 9;
-    if ((terminal.options & touch_screen) != 0 || terminal.code == finds_covered_inputs)
+    constexpr std::uint32_t offers_covered_inputs = 9; // a maker's own kind of graphics
+    if ((terminal.options & VT_information::touch_screen) != 0 || terminal.code == offers_covered_inputs)
         return;
     Child_placement& lowest = placements.placements[touch_slot];
     if (lowest.ref == &input_number)

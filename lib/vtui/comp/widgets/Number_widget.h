@@ -3,7 +3,6 @@
 
 #include "units/Units_man.h"
 #include "vt/Event.h"
-#include "vt/vtui_pool.h"
 #include "vtui/comp/objects/Container_obj.h"
 #include "vtui/comp/objects/Dimension.h"
 #include "vtui/comp/objects/Font_attributes_obj.h"
@@ -14,6 +13,10 @@
 #include "vtui/comp/objects/Output_string_obj.h"
 
 #include <cstdint>
+
+namespace VT {
+class vtui_pool;
+}
 
 namespace VT::Comp {
 
@@ -46,15 +49,16 @@ class VTUI_EXPORT Number_widget : public Widget
         bool input{false}; ///< the operator may enter a number
     };
 
-    /// The number in one system of units. The terminal holds an entry within the limits in display units; set_value()
-    /// holds its argument within the same numbers in engineering units, before the factor. Where a system has a factor,
-    /// give limits that suit both, or the value is cut when that system is shown.
+    /// The number in one system of units. Its limits act twice: the terminal holds an entry within them in display
+    /// units; set_value(), and with it a switch to this system, holds the value itself within the same numbers in
+    /// engineering units. Where the system has a factor other than 1, choose them wide enough for both and check what
+    /// was entered.
     struct Specification
     {
         Units_man::units_type units_type{Units_man::none};
-        double min{0};            ///< lowest value, display units
+        double min{0};            ///< lowest value, display units: a whole number of steps, within 32 bits of them
         double max{0};            ///< highest value, display units; both 0: as far as 32 raw bits reach
-        double scale{1};          ///< display units per raw unit
+        double scale{1};          ///< display units per raw unit, one step; above 0
         std::uint8_t decimals{0}; ///< shown ones, 0 to 7
     };
 
@@ -73,10 +77,13 @@ class VTUI_EXPORT Number_widget : public Widget
     void construct(const Style& style, const Specification& s0, const Specification& s1,
                    VT::String_variable_obj* units_text, const Specification& s2);
 
-    /// Completes the units texts and shows system 0. A text given here replaces that of the constructor.
+    /// Completes the units texts and shows system 0; where other systems have been announced, announce them again. A
+    /// text given here replaces those of the constructor. Texts of the units manager are the pool's: it outlives the
+    /// field's use.
     void init(VT::vtui_pool* pool, VT::String_variable_obj* units_text);
 
-    // Pixels, in the system shown. The number's width is an estimate from its limits, a character generous at times.
+    // Pixels, in the system shown. The number's width is an estimate from its limits: a character generous at times,
+    // and without their digits where both lie beyond 32 bits.
     Dimension get_preferred_units_size() const;
     Dimension get_preferred_number_size() const;
     Dimension get_preferred_size() const;
@@ -89,12 +96,14 @@ class VTUI_EXPORT Number_widget : public Widget
     /// Places number and units without sizing them.
     void set_layout(Dimension box, Point origin);
 
-    /// Shows the value in another system of units, with its decimals and limits. Lays nothing out: follow with
-    /// set_size(). If the pool is live, each attribute that changes is sent, then the value. Ends the process if the
-    /// system's max is not above its min, or if there are more than 4294967295 steps between them.
+    /// Shows the value in another system of units, with its decimals and limits, and holds it within them as
+    /// set_value() does: what that cuts off is lost. Units texts of the units manager follow Pool::announce() only.
+    /// Lays nothing out: follow with set_size(). If the pool is live, each attribute that changes is sent, then the
+    /// value. Ends the process if the system's max is not above its min, or if its limits are more than 4294967295
+    /// steps apart (not counted from 2^31 display units on).
     void set_system(Units_man::units_systems new_system);
 
-    /// Shows `v`, engineering units. It is kept within min and max as they are, although those are display units. If
+    /// Shows `v`, engineering units. It is held within min and max as they are, although those are display units. If
     /// the pool is live, the output number is sent and, if the field is an input, the input number.
     void set_value(double v);
     /// Engineering units.
@@ -103,15 +112,20 @@ class VTUI_EXPORT Number_widget : public Widget
     void increment(double step);
     void decrement(double step) { increment(-step); }
 
-    /// Takes a raw value that was entered at the terminal, which has checked it; it is not kept within min and max.
+    /// Takes a raw value that was entered at the terminal, which has checked it; it is not held within min and max. If
+    /// the pool is live, the output number is sent.
     void handle_input(unsigned int raw);
+
+    using Handled_events = Event_list<VT_change_numeric_value_event, const VT_information, Units_man>;
 
     /// A number was entered somewhere.
     void handle_event(VT_change_numeric_value_event& event);
-    /// Without a touch screen the operator has to see the input number itself: it takes the place of the output number.
-    /// Shows with the next set_size(). Not undone by another terminal.
+    /// Without a touch screen (and with other than a maker's graphics of kind 9) the operator has to see the input
+    /// number itself: it takes the place of the output number. To be followed by set_size(); not undone by another
+    /// terminal.
     void handle_event(const VT_information& terminal);
-    /// Units may have changed: shows the system chosen for the quantity, lays out again and uploads.
+    /// Units may have changed: shows the system chosen for the quantity, lays out again as set_size() did last, and
+    /// uploads.
     void handle_event(Units_man& units_man);
 
     bool is_input(unsigned short id) const { return id != VT::VT_obj::NULL_ID && id == input_number.get_id(); }
@@ -131,13 +145,16 @@ class VTUI_EXPORT Number_widget : public Widget
     Child_placements_array<Array_array_4> placements;
     Output_number_obj output_number;
     Font_attributes_obj*& output_font{output_number.font};
-    Specification specifications[Units_man::number_of_systems];
+    Specification specifications[Units_man::number_of_systems]; ///< set_system() writes limits into unbounded ones
     VT::String_variable_obj* units_variables[Units_man::number_of_systems];
     Units_man::units_systems system{};
     std::uint32_t layout{};
     double value{0}; ///< engineering units
     Dimension layout_size;
     Point layout_origin;
+
+  private:
+    bool is_child(const VT::VT_obj& number);
 };
 
 } // namespace VT::Comp

@@ -20,8 +20,7 @@ void Placement_widget::set_size(Dimension box)
         Fatal::assertion("__null != content.placements[0].ref", "../../../vtui/comp/widgets/Placement_widget", 26,
                          __PRETTY_FUNCTION__);
 
-    container.width = box.width;
-    container.height = box.height;
+    resize(container, box);
 
     const Dimension size = size_of(*placed.ref);
     const std::int16_t middle_x = centred(box.width, size.width);
