@@ -35,7 +35,7 @@ void Routes::add(const Route& route)
 {
     const auto is_the_same = [&](const Route& r) {
         return r.component == route.component && r.hand_over == route.hand_over && r.begin == route.begin &&
-               r.size == route.size;
+               r.whole == route.whole;
     };
     if (std::any_of(routes.begin(), routes.end(), is_the_same))
         return;
@@ -104,7 +104,7 @@ void Routes::deliver_to_all(const Event& event) const
 {
     // A component may route others, or no longer itself, while it handles the event.
     for (std::size_t i = 0; i < routes.size(); ++i)
-        if (routes[i].component && routes[i].begin == routes[i].component)
+        if (routes[i].component && routes[i].whole)
             routes[i].hand_over(routes[i].component, event);
 }
 

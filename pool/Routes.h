@@ -33,15 +33,15 @@ class VTUI_EXPORT Routes
     void add(Component& component)
     {
         check<Component>();
-        add({std::addressof(component), std::addressof(component), sizeof component, handled<Component>(every_event),
-             &hand_over<Component>});
+        add({std::addressof(component), std::addressof(component), sizeof component, true,
+             handled<Component>(every_event), &hand_over<Component>});
     }
     /// Leads an object that the component keeps elsewhere to it, too.
     template <class Component>
     void add(Component& component, const VT_obj& object)
     {
         add(component);
-        add({std::addressof(component), &object, 1, handled<Component>(every_event), &hand_over<Component>});
+        add({std::addressof(component), &object, 1, false, handled<Component>(every_event), &hand_over<Component>});
     }
     /// False if it was not added as one of that type.
     template <class Component>
@@ -78,6 +78,7 @@ class VTUI_EXPORT Routes
         void* component; ///< null: removed
         const void* begin;
         std::size_t size;
+        bool whole;           ///< the component itself, not a control elsewhere
         std::uint32_t events; ///< handled ones, a bit each
         Hand_over hand_over;
         std::uint32_t outer{nobody}; ///< the route whose memory contains this one's

@@ -25,6 +25,8 @@ Bordered_number_widget::Bordered_number_widget(const Style& style, VT::String_va
 
 void Bordered_number_widget::construct(Line_attributes_obj* line, Fill_attributes_obj* fill)
 {
+    border_line = line;
+    border_fill = fill;
     border.set_line(line);
     border.set_fill(fill);
     placements.placements[0] = {&number.root(), 0, 0};

@@ -64,8 +64,8 @@ class VTUI_EXPORT Bordered_number_widget
 
     Number_widget number;
     Rectangle_obj border;
-    Line_attributes_obj*& border_line{border.line};
-    Fill_attributes_obj*& border_fill{border.fill};
+    Line_attributes_obj* border_line{nullptr};
+    Fill_attributes_obj* border_fill{nullptr};
     Container_obj container;
     Child_placements_array<Array_array_2> placements;
 };

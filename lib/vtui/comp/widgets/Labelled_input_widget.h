@@ -18,11 +18,11 @@ class VTUI_EXPORT Labelled_input_widget
     /// the input's constructor.
     template <typename... Arguments>
     explicit Labelled_input_widget(Font_attributes_obj* font, VT::String_variable_obj* text, Arguments&&... arguments)
-        : input(std::forward<Arguments>(arguments)...)
+        : label_font(font), input(std::forward<Arguments>(arguments)...)
     {
         label.options = VT::Field_obj::transparent;
         label.set_font(font);
-        label.set_variable(text);
+        set_label(text);
         placements.placements[0] = {&input.root(), 0, 0};
         placements.placements[1] = {&label, 0, 0};
         container.placements_ptr = &placements;
@@ -35,15 +35,19 @@ class VTUI_EXPORT Labelled_input_widget
     /// follow with root().upload(true).
     void set_size(Dimension size, Dimension margin);
     /// Shows another text; sends Change Attribute if the pool is live.
-    void set_label(VT::String_variable_obj* text) { label.set_variable(text); }
+    void set_label(VT::String_variable_obj* text)
+    {
+        label_variable = text;
+        label.set_variable(text);
+    }
 
     Container_obj& root() { return container; }
 
     Container_obj container;
     Child_placements_array<Array_array_2> placements;
     Output_string_obj label;
-    VT::String_variable_obj*& label_variable{label.variable};
-    Font_attributes_obj*& label_font{label.font};
+    VT::String_variable_obj* label_variable{nullptr};
+    Font_attributes_obj* label_font;
     Input input;
 };
 

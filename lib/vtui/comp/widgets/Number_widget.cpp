@@ -59,14 +59,17 @@ void Number_widget::construct(const Style& style, const Specification& s0, const
     specifications[2] = s2;
     std::fill(std::begin(units_variables), std::end(units_variables), units_text);
 
-    input_number.set_font(style.number_font);
+    input_font = style.number_font;
+    input_number.set_font(input_font);
     input_number.options = VT::Field_obj::transparent;
-    output_number.set_font(style.number_font);
+    output_font = style.number_font;
+    output_number.set_font(output_font);
     output_number.options = VT::Field_obj::transparent;
     constexpr std::uint8_t enabled = VT::Input_number_obj::enabled;
     input_number.options_2 =
         static_cast<std::uint8_t>(style.input ? input_number.options_2 | enabled : input_number.options_2 & ~enabled);
-    units.set_font(style.units_font);
+    units_font = style.units_font;
+    units.set_font(units_font);
     units.options = VT::Field_obj::transparent;
 
     layout = style.layout;
@@ -93,7 +96,7 @@ void Number_widget::init(VT::vtui_pool* pool, VT::String_variable_obj* units_tex
         else if (!units_variables[i])
             units_variables[i] = Units_man::get_units_string(pool, specifications[i].units_type);
     }
-    units.set_variable(units_variables[system]);
+    show_units();
     set_system(Units_man::metric);
 }
 
@@ -223,8 +226,14 @@ void Number_widget::set_system(Units_man::units_systems new_system)
     input_number.set_min_value(0);
     input_number.set_max_value(Conversion::round_to_uint32(steps));
 
-    units.set_variable(units_variables[system]);
+    show_units();
     set_value(value);
+}
+
+void Number_widget::show_units()
+{
+    units_variable = units_variables[system];
+    units.set_variable(units_variable);
 }
 
 bool Number_widget::is_child(const VT::VT_obj& number)
@@ -269,7 +278,7 @@ void Number_widget::handle_input_value(double) {}
 
 void Number_widget::handle_event(VT_change_numeric_value_event& event)
 {
-    if (is_input(event.object_id))
+    if (event.object_id == input_number.get_id())
         handle_input(event.value);
 }
 

@@ -137,14 +137,14 @@ class VTUI_EXPORT Number_widget : public Widget
     virtual ~Number_widget();
 
     Output_string_obj units;
-    VT::String_variable_obj*& units_variable{units.variable}; ///< the text shown
-    Font_attributes_obj*& units_font{units.font};
+    VT::String_variable_obj* units_variable{nullptr}; ///< the text that `units` shows
+    Font_attributes_obj* units_font{nullptr};
     Input_number_obj input_number;
-    Font_attributes_obj*& input_font{input_number.font};
+    Font_attributes_obj* input_font{nullptr};
     Container_obj container;
     Child_placements_array<Array_array_4> placements;
     Output_number_obj output_number;
-    Font_attributes_obj*& output_font{output_number.font};
+    Font_attributes_obj* output_font{nullptr};
     Specification specifications[Units_man::number_of_systems]; ///< set_system() writes limits into unbounded ones
     VT::String_variable_obj* units_variables[Units_man::number_of_systems];
     Units_man::units_systems system{};
@@ -155,6 +155,7 @@ class VTUI_EXPORT Number_widget : public Widget
 
   private:
     bool is_child(const VT::VT_obj& number);
+    void show_units();
 };
 
 } // namespace VT::Comp
