@@ -10,6 +10,8 @@
 #include "vtui/comp/objects/Output_number_obj.h"
 #include "vtui/comp/objects/Output_string_obj.h"
 #include "vtui/comp/objects/Polygon_obj.h"
+#include "vtui/comp/widgets/Bordered_number_widget.h"
+#include "vtui/comp/widgets/Labelled_input_widget.h"
 #include "vtui/comp/widgets/Placement_widget.h"
 
 #include <cstdio>
@@ -41,6 +43,10 @@ void print_class_sizes()
         {"String_variable_obj<4>", sizeof(String_variable_obj<4>)},
         {"Child_placements_array<Array_array_4>", sizeof(Child_placements_array<Array_array_4>)},
         {"Placement_widget", sizeof(Placement_widget)},
+        {"Number_widget", sizeof(Number_widget)},
+        {"Number_widget::Specification", sizeof(Number_widget::Specification)},
+        {"Bordered_number_widget", sizeof(Bordered_number_widget)},
+        {"Labelled_input_widget<Number_widget>", sizeof(Labelled_input_widget<Number_widget>)},
         {"Disable_cover_widget_impl<5>", sizeof(Disable_cover_widget_impl<5>)},
         {"Connection_elements", sizeof(Connection_elements)},
     };

@@ -9,10 +9,15 @@ std::size_t count;
 
 std::size_t allocations() { return count; }
 
-void* operator new(std::size_t size)
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     ++count;
-    if (void* const memory = std::malloc(size ? size : 1))
+    return std::malloc(size ? size : 1);
+}
+
+void* operator new(std::size_t size)
+{
+    if (void* const memory = operator new(size, std::nothrow))
         return memory;
     throw std::bad_alloc();
 }

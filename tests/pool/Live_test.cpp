@@ -298,6 +298,17 @@ TEST(PoolReceiving, NotesWhatTheOperatorEntered)
         panel.pool.receive(elsewhere.data(), elsewhere.size())));
 }
 
+TEST(PoolReceiving, LeavesAnInputThatShowsAVariableAlone)
+{
+    Panel panel;
+    panel.input.value = 4;
+    panel.input.variable_reference = 12;
+    panel.load();
+    const Bytes entered = frame(0x05, w(8), 0xFF, d(5)); // is the variable's now
+    panel.pool.receive(entered.data(), entered.size());
+    EXPECT_EQ(panel.input.value, 4U);
+}
+
 TEST(PoolReceiving, KeepsRefusedCommandsWithTheirObjects)
 {
     Panel panel;

@@ -1,6 +1,6 @@
 // What the pool writes, a terminal reads: both ends of the wire, byte for byte and field by field.
 
-#include "apps/Loopback_link.h"
+#include "tests/pool/At_terminal.h"
 #include "tests/pool/Screen.h"
 #include "vtui/comp/Connection_elements.h"
 #include "vtui/comp/objects/Button_obj.h"
@@ -18,22 +18,6 @@
 using terminal::Field;
 
 namespace {
-
-Bytes records_in(const terminal::Terminal& terminal)
-{
-    Bytes bytes;
-    terminal.pool().for_each([&](const terminal::Object& object) {
-        bytes.insert(bytes.end(), object.data(), object.data() + object.size());
-    });
-    return bytes;
-}
-
-/// The terminal's messages since the last call reach the pool.
-void deliver(apps::Loopback_link& link, VT::Pool& pool)
-{
-    for (std::vector<std::uint8_t> message; link.receive(message, {});)
-        pool.receive(message.data(), message.size());
-}
 
 /// A screen with an object of every class that components are made of.
 struct Full : Screen

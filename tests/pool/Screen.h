@@ -55,6 +55,9 @@ struct With_child
     C::Child_placements_array<Array_array_1> children;
 };
 
+/// A terminal's message.
+inline void say(VT::Pool& pool, const Bytes& message) { pool.receive(message.data(), message.size()); }
+
 inline std::vector<Iso::Object_id> ids(std::initializer_list<const VT::VT_obj*> objects)
 {
     std::vector<Iso::Object_id> result;
