@@ -11,6 +11,8 @@
 #include "vtui/comp/objects/Output_number_obj.h"
 #include "vtui/comp/objects/Output_string_obj.h"
 #include "vtui/comp/objects/Polygon_obj.h"
+#include "vtui/comp/widgets/Bordered_number_widget.h"
+#include "vtui/comp/widgets/Labelled_input_widget.h"
 #include "vtui/comp/widgets/Placement_widget.h"
 
 #include <gtest/gtest.h>
@@ -36,6 +38,15 @@ class Counting_pool final : public Fake_pool
 
     void send(const std::uint8_t*, std::size_t, const void*, std::size_t) override { ++count; }
     void upload(VT::VT_obj&) override { ++count; }
+
+    /// Without a key for the map.
+    VT::String_variable_obj* find_text(const char* name) override
+    {
+        for (auto& [key, text] : texts)
+            if (key == name)
+                return &text.object;
+        return nullptr;
+    }
 };
 
 /// A pool that is live as soon as the objects of a test are in it.
@@ -192,6 +203,93 @@ TEST_F(Allocation, IsNotNeededToSendACommand)
     expect_sent(1, [&] { number.upload(true); });
     expect_sent(1, [&] { mask.set_soft_key_mask(&keys); });
     expect_sent(1, [&] { set.set_active_mask(mask); });
+}
+
+/// A field in each of its forms, an input, in kilometres and miles an hour.
+class Number_fields
+{
+  public:
+    Labelled_input_widget<Number_widget> labelled{&font, &text, style(), speed(), speed(), nullptr};
+    Bordered_number_widget bordered{{nullptr, nullptr, style()}, speed(), nullptr};
+
+    void initialise(VT::vtui_pool* pool)
+    {
+        labelled.input.init(pool, nullptr);
+        bordered.init(pool, nullptr);
+    }
+
+    void lay_out()
+    {
+        labelled.set_size(labelled.get_preferred_size(), {2, 3});
+        labelled.input.set_layout({50, 20}, {1, 2});
+        bordered.set_preferred_size();
+    }
+
+    void switch_units()
+    {
+        labelled.input.set_system(Units_man::us);
+        Units_man units;
+        units.set_system_type(Units_man::imperial);
+        labelled.input.handle_event(units);
+    }
+
+    void change_value()
+    {
+        labelled.input.set_value(12);
+        labelled.input.increment(3);
+        labelled.input.decrement(1);
+        VT::VT_change_numeric_value_event event{labelled.input.input_number.get_id(), 77};
+        labelled.input.handle_event(event);
+        labelled.input.handle_event(VT::VT_information{});
+    }
+
+    static Number_widget::Specification speed() { return {Units_man::speed, 0, 50, 0.1, 1}; }
+
+  private:
+    Number_widget::Style style() { return {&font, &font, &backdrop, Number_widget::stacked, true}; }
+
+    Font_attributes_obj font;
+    Rectangle_obj backdrop;
+    String_variable_obj<4> text;
+};
+
+TEST_F(Allocation, IsNotNeededForANumberFieldOutsideAPool)
+{
+    EXPECT_EQ(allocations_of([] {
+                  Number_fields fields;
+                  fields.initialise(nullptr);
+                  fields.lay_out();
+                  fields.switch_units();
+                  fields.change_value();
+              }),
+              0U);
+}
+
+TEST_F(Allocation, OfTheUnitsTextsIsAllThatANumberFieldAsksOfItsPool)
+{
+    Number_fields first;
+    first.initialise(&pool);
+    EXPECT_EQ(pool.texts.size(), 1U) << "one for both";
+    Number_fields second;
+    EXPECT_EQ(allocations_of([&] { second.initialise(&pool); }), 0U) << "it has been made";
+}
+
+TEST_F(Allocation, IsNotNeededForANumberFieldInALivePool)
+{
+    Number_fields fields;
+    fields.initialise(&pool);
+    Number_widget& number = fields.labelled.input;
+    go_live(number.container, number.input_number, number.output_number, number.units, *number.units_variable,
+            fields.labelled.container, fields.labelled.label);
+    expect_sent(0, [&] { fields.lay_out(); });
+    // Both scales, both decimals, the maximum, the text and both values; for the next system both values and the
+    // upload.
+    expect_sent(11, [&] { fields.switch_units(); });
+    expect_sent(7, [&] { fields.change_value(); }); // three values in both numbers and one in the output number
+    expect_sent(1, [&] { fields.labelled.set_label(number.units_variable); });
+    Units_man units;
+    units.set_system_type(Units_man::us);
+    expect_sent(1, [&] { units.write_texts(pool); });
 }
 
 } // namespace

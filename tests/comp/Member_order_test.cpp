@@ -3,6 +3,8 @@
 #include "vtui/comp/objects/Has_vertices.h"
 #include "vtui/comp/objects/N_state_pointer_obj.h"
 #include "vtui/comp/objects/Rectangle_obj.h"
+#include "vtui/comp/widgets/Bordered_number_widget.h"
+#include "vtui/comp/widgets/Labelled_input_widget.h"
 #include "vtui/comp/widgets/Placement_widget.h"
 
 #include <gtest/gtest.h>
@@ -50,6 +52,53 @@ TEST(MemberOrder, OfAStatePointer)
 {
     const N_state_pointer_obj<2> pointer({nullptr, nullptr});
     EXPECT_TRUE(ascend({&pointer, &pointer.target, &pointer.state, &pointer.states}));
+}
+
+TEST(MemberOrder, OfANumberWidget)
+{
+    const Number_widget w(Number_widget::Style(), nullptr);
+    EXPECT_TRUE(ascend({&w, &w.units, &w.units_variable, &w.units_font, &w.input_number, &w.input_font, &w.container,
+                        &w.placements, &w.output_number, &w.output_font, &w.specifications, &w.units_variables,
+                        &w.system, &w.layout, &w.value, &w.layout_size, &w.layout_origin}));
+}
+
+TEST(MemberOrder, OfTheStyleOfANumberWidget)
+{
+    const Number_widget::Style s;
+    EXPECT_TRUE(ascend({&s.number_font, &s.units_font, &s.backdrop, &s.layout, &s.input}));
+    EXPECT_EQ(static_cast<const void*>(&s.number_font), &s);
+    EXPECT_EQ(sizeof s.layout, 4U);
+    EXPECT_EQ(sizeof s.input, 1U);
+}
+
+TEST(MemberOrder, OfTheSpecificationOfANumberWidget)
+{
+    const Number_widget::Specification s;
+    EXPECT_TRUE(ascend({&s.units_type, &s.min, &s.max, &s.scale, &s.decimals}));
+    EXPECT_EQ(static_cast<const void*>(&s.units_type), &s);
+    EXPECT_EQ(sizeof s.units_type, 4U);
+    EXPECT_EQ(sizeof s.decimals, 1U);
+}
+
+TEST(MemberOrder, OfABorderedNumberWidget)
+{
+    const Bordered_number_widget w(Bordered_number_widget::Style(), nullptr);
+    EXPECT_TRUE(ascend({&w.number, &w.border, &w.border_line, &w.border_fill, &w.container, &w.placements}));
+    EXPECT_EQ(static_cast<const void*>(&w.number), &w);
+}
+
+TEST(MemberOrder, OfTheStyleOfABorderedNumberWidget)
+{
+    const Bordered_number_widget::Style s;
+    EXPECT_TRUE(ascend({&s.border_line, &s.border_fill, &s.number}));
+    EXPECT_EQ(static_cast<const void*>(&s.border_line), &s);
+}
+
+TEST(MemberOrder, OfALabelledInputWidget)
+{
+    const Labelled_input_widget<Number_widget> w(nullptr, nullptr, Number_widget::Style(), nullptr);
+    EXPECT_TRUE(ascend({&w.container, &w.placements, &w.label, &w.label_variable, &w.label_font, &w.input}));
+    EXPECT_EQ(static_cast<const void*>(&w.container), &w);
 }
 
 } // namespace
