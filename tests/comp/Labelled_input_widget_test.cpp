@@ -29,7 +29,9 @@ TEST_F(LabelledInputWidget, PlacesTheLabelOverItsInput)
     EXPECT_EQ(field.placements.size(), 2U);
     EXPECT_EQ(field.placements.placements[0].ref, &field.input.container);
     EXPECT_EQ(field.placements.placements[1].ref, &field.label);
-    EXPECT_EQ(Point(field.placements.placements[0].x, field.placements.placements[0].y), Point(0, 0));
+    for (std::size_t i = 0; i < 2; ++i)
+        EXPECT_EQ(Point(field.placements.placements[i].x, field.placements.placements[i].y), Point(0, 0));
+    EXPECT_EQ(field.label.options, 1) << "transparent: the input's backdrop lies under it";
     EXPECT_EQ(field.container.placements_ptr, &field.placements);
     EXPECT_EQ(&field.root(), &field.container);
     EXPECT_EQ(field.label_font, &label_font);
@@ -75,6 +77,13 @@ TEST_F(LabelledInputWidget, PrefersAtMost16BitsOfALabel)
     Text endless(std::string(5470, 'x')); // 65640 wide, that is 104
     field.set_label(&endless.variable);
     EXPECT_EQ(field.get_preferred_size(), Dimension(104, 40));
+}
+
+TEST_F(LabelledInputWidget, MayPreferMoreThan8BitsOfHeight)
+{
+    label_font.size = std::uint8_t{14}; // 128 × 192
+    number_font.size = std::uint8_t{14};
+    EXPECT_EQ(field.get_preferred_size(), Dimension(512, 384));
 }
 
 TEST_F(LabelledInputWidget, WithoutTextOrFontPrefersTheSizeOfItsInput)
