@@ -11,6 +11,8 @@ namespace VT {
 class VTUI_EXPORT Output_string_obj : public Field_obj
 {
   public:
+    static constexpr std::uint8_t auto_wrap = 2; ///< among the options
+
     /// `text` holds `length` characters and is not owned.
     Output_string_obj(Iso::Object_id id, const char* name, std::uint16_t width_, std::uint16_t height_,
                       std::uint8_t background_colour_, Iso::Object_id font_attributes_, std::uint8_t options_,

@@ -15,7 +15,7 @@ class VTUI_EXPORT Font_attributes_obj : public Object, public Has_macros, public
 };
 
 /// One line of that many characters; without a font it has no size. The width has 16 bits and wraps around.
-inline Dimension text_size(std::uint16_t characters, const Font_attributes_obj* font)
+inline Dimension text_size(std::uint16_t characters, const VT::Font_attributes_obj* font)
 {
     if (!font)
         return {};

@@ -5,6 +5,7 @@
 #include "vt/Attribute.h"
 #include "vt/VT_obj.h"
 #include "vtui/comp/objects/Array_array.h"
+#include "vtui/comp/objects/Dimension.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -21,6 +22,17 @@ struct Child_placement
     std::int16_t x{0};        ///< left edge, pixels from the parent's
     std::int16_t y{0};        ///< top edge, pixels from the parent's
 };
+
+/// The size of the child; a placement without one has none, and its write-out ends the process.
+inline Dimension size_of(const Child_placement& placed) { return placed.ref ? size_of(*placed.ref) : Dimension(); }
+
+/// Moves the child to the middle of a box at the parent's top left corner.
+inline void centre(Child_placement& placed, Dimension box)
+{
+    const Dimension size = size_of(placed);
+    placed.x = centred(box.width, size.width);
+    placed.y = centred(box.height, size.height);
+}
 
 /// The children of one parent, as many as its component has room for. The component computes placements and writes them
 /// out into the attributes that the parent's object list consists of.

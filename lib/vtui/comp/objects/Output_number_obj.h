@@ -16,12 +16,12 @@ class VTUI_EXPORT Output_number_obj : public Has_macros, public Object, public V
     {}
     ~Output_number_obj() override;
 
-    void set_font(Font_attributes_obj* new_font)
+    void set_font(VT::Font_attributes_obj* new_font)
     {
         set_link(*this, font, new_font, &VT::Output_number_obj::set_font_attributes);
     }
 
-    Font_attributes_obj* font{nullptr};
+    VT::Font_attributes_obj* font{nullptr};
 };
 
 } // namespace VT::Comp

@@ -16,7 +16,7 @@ class VTUI_EXPORT Output_string_obj : public Has_macros, public Object, public V
     Output_string_obj() : VT::Output_string_obj(NULL_ID, nullptr, 0, 0, 1, NULL_ID, 0, NULL_ID, 0, 0, nullptr, 0) {}
     ~Output_string_obj() override;
 
-    void set_font(Font_attributes_obj* new_font)
+    void set_font(VT::Font_attributes_obj* new_font)
     {
         set_link(*this, font, new_font, &VT::Output_string_obj::set_font_attributes);
     }
@@ -29,7 +29,7 @@ class VTUI_EXPORT Output_string_obj : public Has_macros, public Object, public V
     /// ends the process.
     bool __set_by_spec(const VT::Client::Object_specification_interface& specification) override;
 
-    Font_attributes_obj* font{nullptr};
+    VT::Font_attributes_obj* font{nullptr};
     VT::String_variable_obj* variable{nullptr};
 };
 

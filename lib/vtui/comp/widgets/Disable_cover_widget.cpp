@@ -20,15 +20,15 @@ constexpr auto stipple()
     return pixels;
 }
 
-[[noreturn]] void no_larger_cover(unsigned depth)
+} // namespace
+
+void no_larger_cover(unsigned depth, const char* source)
 {
     const std::string function = "VT::VT_obj* VT::Comp::Disable_cover_widget_impl<DEPTH>::root_at_size(uint16_t) [with "
                                  "unsigned int DEPTH = " +
                                  std::to_string(depth) + "u; uint16_t = short unsigned int]";
-    Fatal::assertion("false", "../../../vtui/comp/widgets/Disable_cover_widget", 100, function.c_str());
+    Fatal::assertion("false", source, 100, function.c_str());
 }
-
-} // namespace
 
 const std::uint8_t* Disable_cover_widget_impl<1>::get_pic_buf()
 {
@@ -54,7 +54,7 @@ template <unsigned DEPTH>
 VT::VT_obj* Disable_cover_widget_impl<DEPTH>::root_at_size(std::uint16_t size)
 {
     if (size > side)
-        no_larger_cover(DEPTH);
+        no_larger_cover(DEPTH, "../../../vtui/comp/widgets/Disable_cover_widget");
     if (size > side / 2)
         return &container;
     if constexpr (DEPTH == 2)

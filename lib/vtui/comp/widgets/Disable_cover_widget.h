@@ -11,6 +11,10 @@
 
 namespace VT::Comp {
 
+/// Ends the process: the cover of that depth is the largest. The text names a place in the sources, by which field
+/// service knows it.
+[[noreturn]] void no_larger_cover(unsigned depth, const char* source);
+
 /// A stippled square that makes what lies under it look disabled, 2^(DEPTH + 4) pixels wide and high: 32 to 512 for
 /// DEPTH 1 to 5. Each is made of four of the next smaller one, so all five together cost the terminal one picture and
 /// four containers.

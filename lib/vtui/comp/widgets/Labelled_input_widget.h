@@ -1,6 +1,7 @@
 #ifndef VTUI_COMP_LABELLED_INPUT_WIDGET_H
 #define VTUI_COMP_LABELLED_INPUT_WIDGET_H
 
+#include "vtui/comp/widgets/Button_widget.h"
 #include "vtui/comp/widgets/Number_widget.h"
 
 #include <algorithm>
@@ -75,6 +76,7 @@ void Labelled_input_widget<Input>::set_size(Dimension size, Dimension margin)
     placements.deref();
 }
 
+extern template class Labelled_input_widget<Button_widget>;
 extern template class Labelled_input_widget<Number_widget>;
 
 } // namespace VT::Comp

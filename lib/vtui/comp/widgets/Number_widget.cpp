@@ -151,7 +151,7 @@ void Number_widget::set_layout(Dimension box, Point origin)
 {
     Child_placement& number = placements.placements[number_slot];
     Child_placement& text = placements.placements[units_slot];
-    const Dimension n = number.ref ? size_of(*number.ref) : Dimension(); // deref() ends the process
+    const Dimension n = size_of(number);
     const Dimension t = size_of(units);
 
     const auto centre_vertically = [&] {

@@ -1,0 +1,20 @@
+#include "vtui/comp/widgets/Disable_widget.h"
+
+#include <algorithm>
+
+namespace VT::Comp {
+
+Disable_widget::Disable_widget(Connection_elements& style)
+    : elements(style), state_pointer({&style.null_pointer, &style.cover_512})
+{}
+
+void Disable_widget::set_size(Dimension size)
+{
+    const std::uint16_t side = std::max(size.width, size.height);
+    if (side > elements.cover.side)
+        no_larger_cover(5, "../../../../lib/vtui/comp/widgets/Disable_cover_widget");
+    state_pointer.states = {&elements.null_pointer, elements.cover.root_at_size(side)};
+    state_pointer.set_state(state_pointer.state);
+}
+
+} // namespace VT::Comp

@@ -1,0 +1,31 @@
+#ifndef VTUI_COMP_DISABLE_WIDGET_H
+#define VTUI_COMP_DISABLE_WIDGET_H
+
+#include "vtui/comp/Connection_elements.h"
+#include "vtui/comp/objects/Dimension.h"
+#include "vtui/comp/objects/N_state_pointer_obj.h"
+
+namespace VT::Comp {
+
+/// Lies over a component, at its top left corner, and makes it look disabled: a pointer at a stippled cover, or at
+/// nothing. The cover is not cut to the component: 100 × 40 pixels get the one of 128 × 128. The style outlives it.
+class VTUI_EXPORT Disable_widget
+{
+  public:
+    explicit Disable_widget(Connection_elements& elements);
+
+    /// Chooses the smallest cover for an area of `size` pixels; the state stays. If the widget has an id, the pointer's
+    /// value is sent. Ends the process above 512.
+    void set_size(Dimension size);
+    /// One change of the pointer's value if the widget has an id.
+    void set_disabled(bool disabled) { state_pointer.set_state(disabled); }
+
+    N_state_pointer_obj<2>& root() { return state_pointer; }
+
+    Connection_elements& elements;
+    N_state_pointer_obj<2> state_pointer;
+};
+
+} // namespace VT::Comp
+
+#endif

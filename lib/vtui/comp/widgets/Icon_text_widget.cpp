@@ -1,0 +1,30 @@
+#include "vtui/comp/widgets/Icon_text_widget.h"
+
+#include "vtui/comp/widgets/Caption.h"
+
+namespace VT::Comp {
+
+Icon_text_widget::Icon_text_widget(Connection_elements& elements, VT::Font_attributes_obj* font)
+{
+    construct_caption(caption, font ? *font : elements.font_1);
+    placements.placements[0] = {&elements.rect_17_patterned, 0, 0};
+    placements.placements[1] = {&caption, 0, 0};
+    container.placements_ptr = &placements;
+}
+
+void Icon_text_widget::set_size(Dimension size)
+{
+    resize(container, size);
+    size_caption(caption, size.width);
+
+    Child_placement& icon = placements.placements[0];
+    Child_placement& text = placements.placements[1];
+    const Dimension picture = size_of(icon);
+    icon.x = centred(size.width, picture.width);
+    icon.y = centred(size.height, static_cast<std::uint16_t>(picture.height + caption.height));
+    text.x = centred(size.width, caption.width);
+    text.y = position(icon.y + picture.height);
+    placements.deref();
+}
+
+} // namespace VT::Comp

@@ -1,0 +1,35 @@
+#ifndef VTUI_COMP_SHADOW_EDGE_H
+#define VTUI_COMP_SHADOW_EDGE_H
+
+#include "vt/Event.h"
+#include "vtui/comp/objects/Container_obj.h"
+#include "vtui/comp/objects/Dimension.h"
+#include "vtui/comp/objects/Has_child_placements.h"
+#include "vtui/comp/objects/Rectangle_obj.h"
+
+namespace VT::Comp {
+
+/// A line along the right and the bottom side of an area: what both kinds of border are. The kinds differ in the line.
+class VTUI_EXPORT Shadow_edge
+{
+  public:
+    /// Pixels; sends nothing. The rectangle is three pixels narrower and lower, unchecked: below three it becomes huge.
+    void set_size(Dimension size);
+
+    /// Puts the rectangle back in its place; sends Change Child Position if the pool is live. What the terminal says is
+    /// not looked at: it speaks up when it has loaded the pool anew.
+    void handle_event(const VT_information& terminal);
+
+    Container_obj& root() { return container; }
+
+    Container_obj container;
+    Child_placements_array<Array_array_1> placements;
+    Rectangle_obj border;
+
+  protected:
+    explicit Shadow_edge(Line_attributes_obj& line);
+};
+
+} // namespace VT::Comp
+
+#endif
