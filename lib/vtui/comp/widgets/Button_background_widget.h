@@ -8,8 +8,8 @@
 
 namespace VT::Comp {
 
-/// A raised bevel of any size, to lie behind a button: the style's dark half is pinned to the bottom right corner, its
-/// light half to the top left one, and the container cuts both. The style outlives it.
+/// A raised bevel, up to the mask's size, to lie behind a button: the style's dark half is pinned to the bottom right
+/// corner, its light half to the top left one, and the container cuts both. The style outlives it.
 class VTUI_EXPORT Button_background_widget
 {
   public:

@@ -1,7 +1,10 @@
 #ifndef VTUI_COMP_CAPTION_H
 #define VTUI_COMP_CAPTION_H
 
+#include "vtui/comp/objects/Dimension.h"
 #include "vtui/comp/objects/Output_string_obj.h"
+
+#include <cstdint>
 
 namespace VT::Comp {
 

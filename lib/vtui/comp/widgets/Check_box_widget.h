@@ -29,6 +29,9 @@ class VTUI_EXPORT Check_box_widget
     /// need placements.deref() and an upload of root().
     void set_size(Dimension size);
 
+    using Handled_events = Event_list<Button_activation_event>;
+
+    /// Changes over when the button is released.
     void handle_event(Button_activation_event event);
 
     Container_obj& root() { return container; }

@@ -7,8 +7,10 @@
 
 namespace VT::Comp {
 
-/// Lies over a component, at its top left corner, and makes it look disabled: a pointer at a stippled cover, or at
-/// nothing. The cover is not cut to the component: 100 × 40 pixels get the one of 128 × 128. The style outlives it.
+/// Makes a component look disabled: a pointer at a stippled cover, or at nothing. The owner places root() over the
+/// component, at its top left corner. The cover is not cut to the component: 100 × 40 pixels get the one of 128 × 128.
+/// The style outlives it. Where the size may change later, the application adds all covers to the pool:
+/// `pool.add(style.cover.root())`.
 class VTUI_EXPORT Disable_widget
 {
   public:

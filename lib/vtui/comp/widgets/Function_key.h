@@ -13,11 +13,14 @@ class VTUI_EXPORT Function_key : public Key_widget
 {
   public:
     Function_key() = default;
-    explicit Function_key(std::function<void()> its_action);
+    Function_key(std::function<void()> its_action);
 
     Key_obj& root() { return key; }
 
-    /// An empty action throws std::bad_function_call: a key that does nothing is a mistake.
+    using Handled_events = Event_list<Soft_key_activation_event>;
+
+    /// Runs the action when the key is released. An empty action throws std::bad_function_call: a key that does nothing
+    /// is a mistake.
     void handle_event(Soft_key_activation_event& event);
 
     std::function<void()> action;

@@ -20,14 +20,18 @@ class VTUI_EXPORT Icon_text_button_widget
     /// The style outlives the widget.
     explicit Icon_text_button_widget(Connection_elements& elements);
 
-    /// Shows with the next set_size().
+    /// An object of the pool, never null. Shows with the next set_size() and, in a live pool, an upload of root() after
+    /// that.
     void set_icon(VT::VT_obj* icon) { placements.placements[0].ref = icon; }
     /// Null for no text. Sends Change Attribute if the pool is live.
     void set_text(VT::String_variable_obj* text) { caption.set_variable(text); }
 
     /// Pixels. If the widget has ids, the button's container is uploaded once, before its new sizes are known: follow
-    /// with root().upload(true). Ends the process if the icon is null.
+    /// with root().upload(true). A null icon ends the process, here or when the pool is
+    /// prepared.
     void set_size(Dimension size);
+
+    using Handled_events = Event_list<Button_activation_event>;
 
     /// Runs the action when the button is released; without one nothing happens.
     void handle_event(Button_activation_event& event);

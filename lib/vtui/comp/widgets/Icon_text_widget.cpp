@@ -21,6 +21,7 @@ void Icon_text_widget::set_size(Dimension size)
     Child_placement& text = placements.placements[1];
     const Dimension picture = size_of(icon);
     icon.x = centred(size.width, picture.width);
+    // The sum has 16 bits, as sizes have.
     icon.y = centred(size.height, static_cast<std::uint16_t>(picture.height + caption.height));
     text.x = centred(size.width, caption.width);
     text.y = position(icon.y + picture.height);

@@ -9,20 +9,23 @@
 
 namespace VT::Comp {
 
-/// An icon above a caption of two lines, both together in the middle. Icon and text stay the application's; without an
-/// icon there is a blank square of the style's.
+/// An icon above a caption of two lines, both together in the middle. Icon and text stay the application's. Until an
+/// icon is set a blank square of the style's stands for it, which is as large as the mask: set one before the first
+/// size.
 class VTUI_EXPORT Icon_text_widget
 {
   public:
     /// A null font means the style's font_1. Style and font outlive the widget.
     Icon_text_widget(Connection_elements& elements, VT::Font_attributes_obj* font);
 
-    /// Shows with the next set_size().
+    /// An object of the pool, never null. Shows with the next set_size() and, in a live pool, an upload of root() after
+    /// that.
     void set_icon(VT::VT_obj* icon) { placements.placements[0].ref = icon; }
     /// Null for no text. Sends Change Attribute if the pool is live.
     void set_text(VT::String_variable_obj* text) { caption.set_variable(text); }
 
-    /// Pixels. Sends nothing: in a live pool follow with root().upload(true). Ends the process if the icon is null.
+    /// Pixels. Sends nothing: in a live pool follow with root().upload(true). A null icon ends the process, here
+    /// or when the pool is prepared.
     void set_size(Dimension size);
 
     /// Sends Hide/Show if the pool is live.

@@ -22,7 +22,7 @@ class VTUI_EXPORT Key_button_combo_widget
     /// if the button's icon is null.
     void set_size(Dimension size);
 
-    /// Each icon stays the application's; null for none in the key, which must not be sized then.
+    /// Both icons are needed before the pool is prepared and stay the application's.
     void set_icon(VT::VT_obj* button_icon, VT::VT_obj* key_icon);
     /// The caption of the button; sends Change Attribute if the pool is live. The soft key has no text.
     void set_text(VT::String_variable_obj* text) { icon_text.set_text(text); }

@@ -13,7 +13,8 @@ class VTUI_EXPORT Key_widget
   public:
     Key_widget() { key.placements_ptr = &placements; }
 
-    /// Shows with the next set_size(), or with the pool.
+    /// An object of the pool. Shows with the pool or, in a live one, with the next set_size() and key.upload(true). A
+    /// key without content ends the process when the pool is prepared.
     void set_content(VT::VT_obj* content) { placements.placements[0] = {content, 0, 0}; }
 
     /// Sends Change Background Colour if the pool is live.

@@ -10,7 +10,8 @@
 namespace VT::Comp {
 
 /// An input component with a line of text above it. The input covers the whole area, so that a touch on the label means
-/// the input too. Events go to the input: route `input`.
+/// the input too; a button's contents are where its owner puts them (Button_widget::set_content). Events go to the
+/// input: route `input`, or what handles the button's.
 template <class Input>
 class VTUI_EXPORT Labelled_input_widget
 {

@@ -20,6 +20,7 @@ Shadow_edge::Shadow_edge(Line_attributes_obj& line)
 void Shadow_edge::set_size(Dimension size)
 {
     resize(container, size);
+    // Wraps around in 16 bits: a side below three becomes huge.
     resize(border, {static_cast<std::uint16_t>(size.width - shift), static_cast<std::uint16_t>(size.height - shift)});
 }
 

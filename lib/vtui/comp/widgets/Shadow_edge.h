@@ -16,8 +16,10 @@ class VTUI_EXPORT Shadow_edge
     /// Pixels; sends nothing. The rectangle is three pixels narrower and lower, unchecked: below three it becomes huge.
     void set_size(Dimension size);
 
-    /// Puts the rectangle back in its place; sends Change Child Position if the pool is live. What the terminal says is
-    /// not looked at: it speaks up when it has loaded the pool anew.
+    using Handled_events = Event_list<const VT_information>;
+
+    /// Puts the rectangle back in its place, whatever the terminal says; sends Change Child Position if the pool is
+    /// live.
     void handle_event(const VT_information& terminal);
 
     Container_obj& root() { return container; }
