@@ -10,9 +10,17 @@
 #include "vtui/comp/objects/Output_number_obj.h"
 #include "vtui/comp/objects/Output_string_obj.h"
 #include "vtui/comp/objects/Polygon_obj.h"
+#include "vtui/comp/widgets/Border_widget.h"
 #include "vtui/comp/widgets/Bordered_number_widget.h"
+#include "vtui/comp/widgets/Button_background_widget.h"
+#include "vtui/comp/widgets/Check_box_widget.h"
+#include "vtui/comp/widgets/Disable_widget.h"
+#include "vtui/comp/widgets/Function_key.h"
+#include "vtui/comp/widgets/Icon_text_button_widget.h"
+#include "vtui/comp/widgets/Key_button_combo_widget.h"
 #include "vtui/comp/widgets/Labelled_input_widget.h"
 #include "vtui/comp/widgets/Placement_widget.h"
+#include "vtui/comp/widgets/Toggle_button_widget.h"
 
 #include <cstdio>
 
@@ -47,6 +55,19 @@ void print_class_sizes()
         {"Number_widget::Specification", sizeof(Number_widget::Specification)},
         {"Bordered_number_widget", sizeof(Bordered_number_widget)},
         {"Labelled_input_widget<Number_widget>", sizeof(Labelled_input_widget<Number_widget>)},
+        {"Button_widget", sizeof(Button_widget)},
+        {"Button_background_widget", sizeof(Button_background_widget)},
+        {"Button_border_widget", sizeof(Button_border_widget)},
+        {"Border_widget", sizeof(Border_widget)},
+        {"Disable_widget", sizeof(Disable_widget)},
+        {"Toggle_button_widget", sizeof(Toggle_button_widget)},
+        {"Check_box_widget", sizeof(Check_box_widget)},
+        {"Icon_text_widget", sizeof(Icon_text_widget)},
+        {"Icon_text_button_widget", sizeof(Icon_text_button_widget)},
+        {"Key_widget", sizeof(Key_widget)},
+        {"Function_key", sizeof(Function_key)},
+        {"Key_button_combo_widget", sizeof(Key_button_combo_widget)},
+        {"Labelled_input_widget<Button_widget>", sizeof(Labelled_input_widget<Button_widget>)},
         {"Disable_cover_widget_impl<5>", sizeof(Disable_cover_widget_impl<5>)},
         {"Connection_elements", sizeof(Connection_elements)},
     };

@@ -1,5 +1,6 @@
 #include "tests/Allocations.h"
 #include "tests/Fake_pool.h"
+#include "tests/comp/Parts.h"
 #include "vt/Button_obj.h"
 #include "vt/Mask_obj.h"
 #include "vt/Working_set_obj.h"
@@ -11,9 +12,15 @@
 #include "vtui/comp/objects/Output_number_obj.h"
 #include "vtui/comp/objects/Output_string_obj.h"
 #include "vtui/comp/objects/Polygon_obj.h"
+#include "vtui/comp/widgets/Border_widget.h"
 #include "vtui/comp/widgets/Bordered_number_widget.h"
+#include "vtui/comp/widgets/Button_background_widget.h"
+#include "vtui/comp/widgets/Button_border_widget.h"
+#include "vtui/comp/widgets/Check_box_widget.h"
+#include "vtui/comp/widgets/Disable_widget.h"
 #include "vtui/comp/widgets/Labelled_input_widget.h"
 #include "vtui/comp/widgets/Placement_widget.h"
+#include "vtui/comp/widgets/Toggle_button_widget.h"
 
 #include <gtest/gtest.h>
 
@@ -290,6 +297,72 @@ TEST_F(Allocation, IsNotNeededForANumberFieldInALivePool)
     Units_man units;
     units.set_system_type(Units_man::us);
     expect_sent(1, [&] { units.write_texts(pool); });
+}
+
+/// One of each kind of button with what lies around it.
+struct Buttons
+{
+    Connection_elements style;
+    Rectangle_obj icon;
+    Output_string_obj text;
+
+    Button_widget plain{icon};
+    Toggle_button_widget toggle{icon, text};
+    Check_box_widget check_box{style, &icon, &text};
+    Button_background_widget background{style};
+    Button_border_widget button_border{style};
+    Border_widget border{style};
+    Disable_widget disable{style};
+
+    void lay_out()
+    {
+        const Dimension size(100, 40);
+        plain.set_size(size);
+        plain.set_size(size, {}, {});
+        toggle.set_size(size);
+        check_box.set_size(check_box.get_preferred_size());
+        background.set_size(size);
+        button_border.set_size(size);
+        border.set_size(size);
+    }
+
+    void change()
+    {
+        plain.set_content({&text, 3, 4});
+        plain.set_hidden(true);
+        background.set_hidden(true);
+        toggle.toggle();
+        check_box.set_checked(true);
+        check_box.handle_event({Iso::Activation::released, check_box.button.get_id(), VT::VT_obj::NULL_ID, 1});
+        disable.set_disabled(true);
+        disable.set_size({100, 40});
+        button_border.handle_event(VT::VT_information{});
+        border.handle_event(VT::VT_information{});
+    }
+};
+
+TEST_F(Allocation, IsNotNeededForButtonsOutsideAPool)
+{
+    EXPECT_EQ(allocations_of([] {
+                  Buttons buttons;
+                  buttons.lay_out();
+                  buttons.change();
+              }),
+              0U);
+}
+
+TEST_F(Allocation, IsNotNeededForButtonsInALivePool)
+{
+    Buttons b;
+    go_live(b.plain.container, b.plain.button, b.toggle.state_pointer, b.check_box.state_pointer, b.check_box.button,
+            b.background.container, b.button_border.container, b.button_border.border, b.border.container,
+            b.border.border, b.disable.state_pointer, b.text, b.icon, b.style.null_pointer, b.style.cover_512,
+            b.style.cover_128);
+    parts::list_children(b.button_border.container);
+    parts::list_children(b.border.container);
+    expect_sent(0, [&] { b.lay_out(); });
+    // An upload, two containers hidden, a toggle, a box set and flipped, a cover and another, two borders put back.
+    expect_sent(10, [&] { b.change(); });
 }
 
 } // namespace

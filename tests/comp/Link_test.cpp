@@ -14,6 +14,8 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 using namespace VT::Comp;
 
 namespace {
@@ -35,7 +37,7 @@ class Link : public ::testing::Test
     /// function and number of its change command.
     template <typename Owner, typename Target, typename Attribute>
     void expect_link_rule(const char* name, Owner&& owner, void (std::decay_t<Owner>::*set)(Target*),
-                          Target* std::decay_t<Owner>::*link, Attribute attribute, Target& target,
+                          Target* std::decay_t<Owner>::*link, Attribute attribute, std::common_type_t<Target>& target,
                           const Fake_pool::Message& linked)
     {
         SCOPED_TRACE(name);

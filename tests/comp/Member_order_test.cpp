@@ -3,13 +3,24 @@
 #include "vtui/comp/objects/Has_vertices.h"
 #include "vtui/comp/objects/N_state_pointer_obj.h"
 #include "vtui/comp/objects/Rectangle_obj.h"
+#include "vtui/comp/widgets/Border_widget.h"
 #include "vtui/comp/widgets/Bordered_number_widget.h"
+#include "vtui/comp/widgets/Button_background_widget.h"
+#include "vtui/comp/widgets/Button_border_widget.h"
+#include "vtui/comp/widgets/Button_widget.h"
+#include "vtui/comp/widgets/Check_box_widget.h"
+#include "vtui/comp/widgets/Disable_widget.h"
+#include "vtui/comp/widgets/Function_key.h"
+#include "vtui/comp/widgets/Icon_text_button_widget.h"
+#include "vtui/comp/widgets/Key_button_combo_widget.h"
 #include "vtui/comp/widgets/Labelled_input_widget.h"
 #include "vtui/comp/widgets/Placement_widget.h"
+#include "vtui/comp/widgets/Toggle_button_widget.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 #include <functional>
 #include <initializer_list>
 
@@ -99,6 +110,105 @@ TEST(MemberOrder, OfALabelledInputWidget)
     const Labelled_input_widget<Number_widget> w(nullptr, nullptr, Number_widget::Style(), nullptr);
     EXPECT_TRUE(ascend({&w.container, &w.placements, &w.label, &w.label_variable, &w.label_font, &w.input}));
     EXPECT_EQ(static_cast<const void*>(&w.container), &w);
+}
+
+TEST(MemberOrder, OfAButtonWidget)
+{
+    Container_obj content;
+    const Button_widget w(content);
+    EXPECT_TRUE(ascend({&w.container, &w.button, &w.placements}));
+    EXPECT_EQ(static_cast<const void*>(&w.container), &w);
+}
+
+TEST(MemberOrder, OfAButtonBackgroundWidget)
+{
+    Connection_elements style;
+    const Button_background_widget w(style);
+    EXPECT_TRUE(ascend({&w.container, &w.placements}));
+    EXPECT_EQ(static_cast<const void*>(&w.container), &w);
+}
+
+template <class Border>
+void expect_order_of_border()
+{
+    Connection_elements style;
+    const Border w(style);
+    EXPECT_TRUE(ascend({&w.container, &w.placements, &w.border}));
+    EXPECT_EQ(static_cast<const void*>(&w.container), &w);
+}
+
+TEST(MemberOrder, OfBothBorders)
+{
+    expect_order_of_border<Border_widget>();
+    expect_order_of_border<Button_border_widget>();
+}
+
+TEST(MemberOrder, OfADisableWidgetStartsWithTheStyle)
+{
+    Connection_elements style;
+    const Disable_widget w(style);
+    const void* first = nullptr;
+    std::memcpy(&first, static_cast<const void*>(&w), sizeof first);
+    EXPECT_EQ(first, &style);
+    EXPECT_TRUE(ascend({&w, &w.state_pointer}));
+}
+
+TEST(MemberOrder, OfAToggleButtonWidgetStartsWithTheButton)
+{
+    Container_obj off;
+    Container_obj on;
+    const Toggle_button_widget w(off, on);
+    const Button_widget& button = w;
+    EXPECT_EQ(static_cast<const void*>(&button), &w);
+    EXPECT_TRUE(ascend({&w.container, &w.button, &w.placements, &w.state_pointer}));
+}
+
+TEST(MemberOrder, OfACheckBoxWidget)
+{
+    Connection_elements style;
+    const Check_box_widget w(style, nullptr, nullptr);
+    EXPECT_TRUE(ascend({&w.state_pointer, &w.container, &w.placements, &w.button}));
+    EXPECT_EQ(static_cast<const void*>(&w.state_pointer), &w);
+}
+
+TEST(MemberOrder, OfALabelledButton)
+{
+    Rectangle_obj content;
+    const Labelled_input_widget<Button_widget> w(nullptr, nullptr, content);
+    EXPECT_TRUE(ascend({&w.container, &w.placements, &w.label, &w.label_variable, &w.label_font, &w.input}));
+    EXPECT_EQ(static_cast<const void*>(&w.container), &w);
+}
+
+TEST(MemberOrder, OfAnIconTextWidget)
+{
+    Connection_elements style;
+    const Icon_text_widget w(style, nullptr);
+    EXPECT_TRUE(ascend({&w.caption, &w.container, &w.placements}));
+    EXPECT_EQ(static_cast<const void*>(&w.caption), &w);
+}
+
+TEST(MemberOrder, OfAnIconTextButtonWidget)
+{
+    Connection_elements style;
+    const Icon_text_button_widget w(style);
+    EXPECT_TRUE(ascend({&w.button, &w.caption, &w.inner, &w.placements, &w.action}));
+    EXPECT_EQ(static_cast<const void*>(&w.button), &w);
+}
+
+TEST(MemberOrder, OfAKey)
+{
+    const Function_key w;
+    EXPECT_TRUE(ascend({&w.key, &w.placements, &w.action}));
+    EXPECT_EQ(static_cast<const void*>(&w.key), &w);
+    EXPECT_EQ(sizeof(Function_key), sizeof(Key_widget) + sizeof w.action);
+}
+
+TEST(MemberOrder, OfAKeyButtonComboWidget)
+{
+    Connection_elements style;
+    const Key_button_combo_widget w(style);
+    EXPECT_TRUE(ascend({&w.placements, &w.container, &w.button, &w.border, &w.icon_text, &w.soft_key}));
+    EXPECT_EQ(static_cast<const void*>(&w.placements), &w);
 }
 
 } // namespace

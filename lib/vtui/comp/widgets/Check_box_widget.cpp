@@ -32,7 +32,7 @@ void Check_box_widget::set_size(Dimension size)
 void Check_box_widget::handle_event(Button_activation_event event)
 {
     if (event.activation_code == Iso::Activation::released && event.object_id == button.get_id())
-        set_checked(!is_checked());
+        state_pointer.set_state((state_pointer.state + 1) & 1);
 }
 
 } // namespace VT::Comp
