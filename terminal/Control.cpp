@@ -10,8 +10,10 @@ using Type = Iso::Object_type;
 const Enable_bit* enable_bit(Object object)
 {
     static constexpr Enable_bit bits[] = {
-        {Type::button, Field::options, 16, false},     {Type::input_boolean, Field::enabled, 1, true},
-        {Type::input_string, Field::enabled, 1, true}, {Type::input_number, Field::options_2, 1, true},
+        {Type::button, Field::options, button_option::disabled, false},
+        {Type::input_boolean, Field::enabled, 1, true},
+        {Type::input_string, Field::enabled, 1, true},
+        {Type::input_number, Field::options_2, 1, true},
         {Type::input_list, Field::options, 1, true},
     };
     const auto found =

@@ -7,6 +7,11 @@
 
 namespace terminal {
 
+namespace button_option {
+inline constexpr unsigned latchable = 1, latched = 2, suppress_border = 4, transparent = 8, disabled = 16,
+                          no_border = 32;
+}
+
 /// Where a control (a button, an input) keeps whether the operator may use it.
 struct Enable_bit
 {

@@ -248,6 +248,15 @@ bool Terminal::press_and_release(Function function, Object object)
     return true;
 }
 
+/// A latchable button changes over with each touch, and says only what it is now: pressed or released.
+bool Terminal::latch(Object button)
+{
+    const std::uint8_t options = button.u8(Field::options);
+    const bool was_latched = options & button_option::latched;
+    live.set(button, Field::options, options ^ button_option::latched);
+    return use_button(button.id(), was_latched ? Iso::Activation::released : Iso::Activation::pressed);
+}
+
 bool Terminal::touch(Position place, std::size_t first_key)
 {
     if (opened.number != Iso::null_id)
@@ -273,7 +282,9 @@ bool Terminal::touch_control(Object control)
         return false;
     switch (control.type()) {
     case Type::button:
-        return press_and_release(Function::button_activation, control);
+        return control.u8(Field::options) & button_option::latchable
+                   ? latch(control)
+                   : press_and_release(Function::button_activation, control);
     case Type::input_boolean:
         return enter_number(control.id(), number_value(pool(), control) == 0);
     case Type::input_number:

@@ -66,7 +66,8 @@ class Terminal
     bool escape(Iso::Object_id input);
 
     /// The operator touches the screen with a finger and lifts it: the pixel `place` of Screen_layout, with the soft
-    /// keys from `first_key` on in the cells. A soft key or an enabled button is pressed and released, an enabled check
+    /// keys from `first_key` on in the cells. A soft key or an enabled button is pressed and released (a
+    /// latchable one changes over: pressed or released), an enabled check
     /// box changes over, an enabled input number opens for entry. False, and nothing happens, anywhere else, on strings
     /// and lists, and while a number is open, because its entry covers the screen. control_at() says what lies where.
     bool touch(Position place, std::size_t first_key = 0);
@@ -97,6 +98,7 @@ class Terminal
     Frame activation(Iso::Function function, Object object, Iso::Activation activation) const;
     void tell(const Frame& message) { send(message.data(), message.size()); }
     bool press_and_release(Iso::Function function, Object object);
+    bool latch(Object button);
     bool touch_control(Object control);
     void set_opened(const Opened& now);
     void close_entry();

@@ -34,9 +34,6 @@ constexpr unsigned transparent = 1; ///< of numbers and strings alike
 namespace string_option {
 constexpr unsigned auto_wrap = 2, wrap_on_hyphen = 4;
 }
-namespace button_option {
-constexpr unsigned latched = 2, suppress_border = 4, transparent = 8, no_border = 32;
-}
 namespace picture_option {
 constexpr unsigned transparent = 1;
 }

@@ -271,6 +271,27 @@ TEST_F(Touch, IsTakenByADisabledButtonAndLetThroughByADisabledInput)
     EXPECT_EQ(opened_by(5, 5), number);
 }
 
+TEST_F(Touch, LatchesALatchableButtonAndUnlatchesItAgain)
+{
+    constexpr int latchable = 1, latched = 2;
+    const Id lamp = builder.button(20, 20, 0, 0, latchable);
+    const Id fan = builder.button(20, 20, 0, 0, latchable | latched);
+    const Id broken = builder.button(20, 20, 0, 0, latchable | disabled);
+    load({{lamp, 0, 0}, {fan, 30, 0}, {broken, 60, 0}});
+    const auto options = [&](Id id) { return session.terminal.pool().find(id).u8(terminal::Field::options); };
+    const std::uint32_t revision = session.terminal.revision();
+
+    EXPECT_EQ(touch(5, 5), Messages{message(0x01, 1, w(lamp), w(mask), 1)});
+    EXPECT_EQ(options(lamp), latchable | latched);
+    EXPECT_NE(session.terminal.revision(), revision) << "it looks different";
+    EXPECT_EQ(touch(5, 5), Messages{message(0x01, 0, w(lamp), w(mask), 1)});
+    EXPECT_EQ(options(lamp), latchable);
+    EXPECT_EQ(touch(35, 5), Messages{message(0x01, 0, w(fan), w(mask), 1)}) << "it was latched already";
+    EXPECT_EQ(options(fan), latchable);
+    EXPECT_EQ(touch(65, 5), Messages());
+    EXPECT_EQ(options(broken), latchable | disabled);
+}
+
 TEST_F(Touch, DoesNothingOnStringsAndListsAndLetsNothingThrough)
 {
     const Id below = add_button(100, 10);
