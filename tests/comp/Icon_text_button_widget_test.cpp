@@ -29,8 +29,8 @@ class IconTextButtonWidget : public Icon_text
 
     void take()
     {
-        take_all(container_id, {&widget.button.button, &widget.inner, &widget.caption, &icon, &fill.variable,
-                                &style.rect_17_patterned});
+        take_all(container_id, {&widget.root(), &widget.button.button, &widget.inner, &widget.caption, &icon,
+                                &fill.variable, &style.rect_17_patterned});
     }
 
     /// The operator does something with a button.
