@@ -66,10 +66,10 @@ class Terminal
     bool escape(Iso::Object_id input);
 
     /// The operator touches the screen with a finger and lifts it: the pixel `place` of Screen_layout, with the soft
-    /// keys from `first_key` on in the cells. A soft key or an enabled button is pressed and released (a
-    /// latchable one changes over: pressed or released), an enabled check
-    /// box changes over, an enabled input number opens for entry. False, and nothing happens, anywhere else, on strings
-    /// and lists, and while a number is open, because its entry covers the screen. control_at() says what lies where.
+    /// keys from `first_key` on in the cells. A soft key or an enabled button is pressed and released, a latchable
+    /// button changes over (pressed or released), an enabled check box changes over, an enabled input number opens for
+    /// entry. False, and nothing happens, anywhere else, on strings and lists, and while a number is open, because its
+    /// entry covers the screen. control_at() says what lies where.
     bool touch(Position place, std::size_t first_key = 0);
 
     /// The input number that is open for entry, or the null id.

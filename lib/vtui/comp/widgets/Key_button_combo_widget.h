@@ -11,7 +11,7 @@ namespace VT::Comp {
 
 /// One command twice: as a button with icon, caption and shadow edge in the mask, and as a soft key with an icon of its
 /// own. The application puts root() in a mask and get_soft_key() in a soft key mask, and takes an activation of either
-/// for the same (is_button_or_key_id).
+/// for the same (is_button_or_key_id). What the terminal says of itself is for `border`, if that is routed.
 class VTUI_EXPORT Key_button_combo_widget
 {
   public:
