@@ -101,7 +101,7 @@ bool Dialogue::ask_hardware(VT_information& information, milliseconds timeout)
 {
     if (!send(Iso::Function::get_hardware, {}) || !wait_for(information, Iso::Function::get_hardware, timeout))
         return false;
-    return (information.mask_width != 0 && information.mask_height != 0) ||
+    return information.has_pixels() ||
            fail(Error::unusable_terminal, "The terminal says that its data mask has no pixels");
 }
 

@@ -252,7 +252,7 @@ void Pool::take_note(const Terminal_message& received)
             input->value.set_told(); // the terminal shows it already
         }
     } else if (const auto* const information = std::get_if<VT_information>(&received)) {
-        if (information->mask_width != 0 && information->mask_height != 0)
+        if (information->has_pixels())
             terminal_information = *information;
     } else if (const auto* const response = std::get_if<Command_response>(&received)) {
         if (response->error)

@@ -43,6 +43,8 @@ struct VT_information
     std::uint8_t options;      ///< byte 3, the hardware: bit 0 a touch screen, bit 1 a pointer
     std::uint16_t mask_width;  ///< bytes 4 and 5: pixels
     std::uint16_t mask_height; ///< bytes 6 and 7: pixels
+
+    bool has_pixels() const { return mask_width != 0 && mask_height != 0; }
 };
 
 /// Names the events that a component's handle_event() takes, as its type Handled_events. A class derived from it that
