@@ -21,8 +21,7 @@ class Arrow
         corners.points[1] = {right, base};
         corners.points[2] = {static_cast<short>(right / 2), static_cast<short>(bottom - base)};
         polygon.vertices_ptr = &corners;
-        polygon.width = size.width;
-        polygon.height = size.height;
+        resize(polygon, size);
         polygon.set_fill(&fill);
         polygon.set_line(&line);
     }

@@ -29,21 +29,15 @@ class Words
 class Caption
 {
   public:
-    enum Justification : std::uint8_t { left, middle, right };
-
     Caption(const char* text, VT::Comp::Font_attributes_obj& font) : words(text)
     {
         string.set_font(&font);
         string.set_variable(&words.variable);
-        string.options = 1; // transparent
+        string.options = VT::Field_obj::transparent;
     }
 
-    void set_size(VT::Comp::Dimension size)
-    {
-        string.width = size.width;
-        string.height = size.height;
-    }
-    void set_justification(std::uint8_t horizontal) { string.justification = horizontal; }
+    void set_size(VT::Comp::Dimension size) { resize(string, size); }
+    void set_justification(VT::Field_obj::Horizontal horizontal) { string.justification = horizontal; }
 
     VT::VT_obj& root() { return string; }
 

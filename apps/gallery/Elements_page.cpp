@@ -41,7 +41,7 @@ void Elements_page::show_placements()
             draw(shown.box, area(width, height), style.fill_white, style.line_none);
             mask.add(shown.box, at(x), at(top));
             mask.add(shown.widget.root(), at(x), at(top));
-            add_caption(words, x, top + height, step, Caption::middle);
+            add_caption(words, x, top + height, step, VT::Field_obj::middle);
             x += step;
         }
     }
@@ -52,8 +52,7 @@ void Elements_page::show_backgrounds()
     constexpr int left = 2, top = 27, width = 6, height = 8, step = 7;
     add_caption("Backgrounds", left, 22, 60);
     for (Rectangle_obj* own_size : {&style.rect_81, &style.rect_39, &style.rect_17}) {
-        own_size->width = span(width);
-        own_size->height = span(height);
+        resize(*own_size, area(width, height));
     }
     int x = left;
     for (Rectangle_obj* background :
@@ -62,8 +61,7 @@ void Elements_page::show_backgrounds()
         Swatch& swatch = swatches.emplace_back();
         swatch.children.placements[0].ref = background;
         swatch.frame.placements_ptr = &swatch.children;
-        swatch.frame.width = span(width);
-        swatch.frame.height = span(height);
+        resize(swatch.frame, area(width, height));
         mask.add(swatch.frame, at(x), at(top));
         x += step;
     }
@@ -73,8 +71,7 @@ void Elements_page::show_bevel()
 {
     constexpr int left = 70, top = 27, width = 24, height = 8;
     add_caption("Bevel", left, 22, width);
-    bevel.width = span(width);
-    bevel.height = span(height);
+    resize(bevel, area(width, height));
     // The dark half is pinned to the bottom right corner, the light one to the top left one.
     bevel_children.placements[0] = {&style.rect_bevel_dark,
                                     static_cast<std::int16_t>(bevel.width - style.rect_bevel_dark.width),
@@ -91,10 +88,9 @@ void Elements_page::show_numbers()
     for (std::size_t i = 0; i < numbers.size(); ++i) {
         Output_string_obj& number = numbers[i];
         number.set_font(&style.font_1);
-        number.options = 1; // transparent
-        number.justification = Caption::right;
-        number.width = span(width);
-        number.height = span(height);
+        number.options = VT::Field_obj::transparent;
+        number.justification = VT::Field_obj::right;
+        resize(number, area(width, height));
         if (i + 1 < numbers.size())
             number.set_variable(&style.number_strings[i * 17]);
         else
@@ -117,14 +113,13 @@ void Elements_page::show_covers()
         const int width = std::min(side, share);
         Caption& label = captions.emplace_back(std::to_string(side).c_str(), style.font_3);
         label.set_size({static_cast<std::uint16_t>(width), span(8)});
-        label.set_justification(Caption::middle);
+        label.set_justification(VT::Field_obj::middle);
         Covered& part = covered.emplace_back();
         part.children.placements[0].ref = &style.rect_green;
         part.children.placements[1] = {&label.root(), 0, at(4)};
         part.children.placements[2].ref = style.cover.root_at_size(static_cast<std::uint16_t>(side));
         part.frame.placements_ptr = &part.children;
-        part.frame.width = static_cast<std::uint16_t>(width);
-        part.frame.height = span(height);
+        resize(part.frame, {static_cast<std::uint16_t>(width), span(height)});
         mask.add(part.frame, static_cast<std::int16_t>(x), at(top));
         x += width + at(gap);
         room -= width + at(gap);

@@ -74,7 +74,7 @@ void Fields_page::place()
     draw(setting_frame, area(setting_width, setting_height), style.fill_white, style.line_black);
     int y = top;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        add_caption(words[i], left, y, right - left, Caption::left, &style.font_2);
+        add_caption(words[i], left, y, right - left, VT::Field_obj::left, &style.font_2);
         mask.add(shown[i]->root(), at(left), at(y + 6));
         mask.add(setting_frame, at(right), at(y));
         mask.add(settings[i]->root(), at(right + padding), at(y + padding));

@@ -8,7 +8,6 @@ namespace {
 
 constexpr std::uint8_t white = 1, silver = 7;
 constexpr std::uint8_t size_8_by_12 = 2; // font size
-constexpr std::uint8_t transparent = 1;
 
 /// A soft key's cell, in pixels: the keys are drawn for the usual size whatever the mask's is.
 constexpr Dimension key_size{60, 60};
@@ -22,8 +21,7 @@ Number_style::Number_style(Connection_elements& style_set, std::uint16_t side, V
     title_font.colour = white;
     title_font.size = elements.font_1.size;
     key_font.size = size_8_by_12;
-    key_frame.width = key_size.width;
-    key_frame.height = key_size.height;
+    resize(key_frame, key_size);
     key_frame.set_line(&elements.line_black);
 }
 
@@ -41,13 +39,12 @@ Number_page::Units_key::Units_key(Number_style& shared) : caption("Units", share
 {
     constexpr std::uint16_t line = 12;
     caption.set_size({key_size.width, line});
-    caption.set_justification(Caption::middle);
+    caption.set_justification(VT::Field_obj::middle);
     name.set_font(&shared.elements.font_0);
     name.set_variable(&shared.units.name());
-    name.options = transparent;
-    name.justification = Caption::middle;
-    name.width = key_size.width;
-    name.height = line;
+    name.options = VT::Field_obj::transparent;
+    name.justification = VT::Field_obj::middle;
+    resize(name, {key_size.width, line});
     children.placements[0] = {&shared.key_frame, 0, 0};
     children.placements[1] = {&caption.root(), 0, 16};
     children.placements[2] = {&name, 0, 34};
@@ -63,8 +60,8 @@ Number_page::Number_page(const char* page_name, const char* title, Number_style&
 {
     draw(title_bar, {mask_size, span(5)}, style.fill_17, style.line_none);
     mask.add(title_bar, 0, 0);
-    add_caption(title, 2, 1, 50, Caption::left, &shared.title_font);
-    add_caption("Units:", 50, 1, 22, Caption::right, &shared.title_font);
+    add_caption(title, 2, 1, 50, VT::Field_obj::left, &shared.title_font);
+    add_caption("Units:", 50, 1, 22, VT::Field_obj::right, &shared.title_font);
     add_text(units.name(), shared.title_font, 74, 1, 22);
 
     for (Key_obj* key : {&units_key.key, &up_key.key, &down_key.key})
@@ -95,9 +92,8 @@ void Number_page::add_text(VT::String_variable_obj& text, Font_attributes_obj& f
     Output_string_obj& string = texts.emplace_back();
     string.set_font(&font);
     string.set_variable(&text);
-    string.options = transparent;
-    string.width = span(width);
-    string.height = font.get_font_height();
+    string.options = VT::Field_obj::transparent;
+    resize(string, {span(width), font.get_font_height()});
     mask.add(string, at(x), at(y));
 }
 

@@ -2,7 +2,7 @@
 
 namespace gallery {
 
-void Page::add_caption(const char* words, int x, int y, int width, std::uint8_t justification,
+void Page::add_caption(const char* words, int x, int y, int width, VT::Field_obj::Horizontal justification,
                        VT::Comp::Font_attributes_obj* font)
 {
     VT::Comp::Font_attributes_obj& written = font ? *font : style.font_1;
@@ -15,8 +15,7 @@ void Page::add_caption(const char* words, int x, int y, int width, std::uint8_t 
 void Page::draw(VT::Comp::Rectangle_obj& rectangle, VT::Comp::Dimension size, VT::Comp::Fill_attributes_obj& fill,
                 VT::Comp::Line_attributes_obj& line)
 {
-    rectangle.width = size.width;
-    rectangle.height = size.height;
+    resize(rectangle, size);
     rectangle.set_fill(&fill);
     rectangle.set_line(&line);
 }

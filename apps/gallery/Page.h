@@ -31,7 +31,8 @@ class Page
     VT::Comp::Dimension area(int width, int height) const { return {span(width), span(height)}; }
 
     /// One line of text in the first font of the style set, unless another is given.
-    void add_caption(const char* words, int x, int y, int width, std::uint8_t justification = Caption::left,
+    void add_caption(const char* words, int x, int y, int width,
+                     VT::Field_obj::Horizontal justification = VT::Field_obj::left,
                      VT::Comp::Font_attributes_obj* font = nullptr);
 
     /// Gives a rectangle its looks and its size.

@@ -54,10 +54,8 @@ void Connection_elements::set_sizes(unsigned short size)
         line->width = 1;
 
     for (Rectangle_obj* background : {&rect_red, &rect_green, &rect_white, &rect_195, &rect_188, &rect_17_patterned,
-                                      &rect_bevel_dark, &rect_bevel_light}) {
-        background->width = size;
-        background->height = size;
-    }
+                                      &rect_bevel_dark, &rect_bevel_light})
+        resize(*background, {size, size});
 
     cover.set_size({size, size});
 

@@ -46,8 +46,7 @@ Disable_cover_widget_impl<DEPTH>::Disable_cover_widget_impl()
     placements.placements[2] = {quarter, half, 0};
     placements.placements[3] = {quarter, half, half};
     container.placements_ptr = &placements;
-    container.width = side;
-    container.height = side;
+    resize(container, {side, side});
 }
 
 template <unsigned DEPTH>
