@@ -9,7 +9,6 @@
 #include "vtui/comp/widgets/Icon_text_button_widget.h"
 #include "vtui/comp/widgets/Key_button_combo_widget.h"
 #include "vtui/comp/widgets/Labelled_input_widget.h"
-#include "vtui/comp/widgets/Toggle_button_widget.h"
 
 #include <benchmark/benchmark.h>
 
@@ -38,18 +37,24 @@ Surroundings& around()
     return surroundings;
 }
 
-/// Sizes a component, each time another way.
-template <class Component, class... Margin>
-void resize_it(benchmark::State& state, Component& component, Margin... margin)
+/// Calls `resize` with a size, each time with another.
+template <class Resize>
+void alternate(benchmark::State& state, Resize resize)
 {
     const Dimension sizes[] = {{120, 100}, {61, 47}};
     bool which = false;
     for (auto _ : state) {
-        component.set_size(sizes[which], margin...);
+        resize(sizes[which]);
         which = !which;
         benchmark::ClobberMemory();
     }
-    state.counters["bytes"] = sizeof component;
+}
+
+/// Sizes a component outside a pool.
+template <class Component, class... Margin>
+void resize_it(benchmark::State& state, Component& component, Margin... margin)
+{
+    alternate(state, [&](Dimension size) { component.set_size(size, margin...); });
 }
 
 /// A component that is constructed from the style.
@@ -60,21 +65,18 @@ void size_styled(benchmark::State& state)
     resize_it(state, component);
 }
 BENCHMARK_TEMPLATE(size_styled, Button_background_widget);
-BENCHMARK_TEMPLATE(size_styled, Button_border_widget);
 BENCHMARK_TEMPLATE(size_styled, Border_widget);
 BENCHMARK_TEMPLATE(size_styled, Disable_widget);
 BENCHMARK_TEMPLATE(size_styled, Icon_text_button_widget);
 BENCHMARK_TEMPLATE(size_styled, Key_button_combo_widget);
 
-template <class Key>
-void size_key(benchmark::State& state)
+void size_key_widget(benchmark::State& state)
 {
-    Key key;
+    Key_widget key;
     key.set_content(&around().icon);
     resize_it(state, key);
 }
-BENCHMARK_TEMPLATE(size_key, Key_widget);
-BENCHMARK_TEMPLATE(size_key, Function_key);
+BENCHMARK(size_key_widget);
 
 void size_button_widget(benchmark::State& state)
 {
@@ -82,13 +84,6 @@ void size_button_widget(benchmark::State& state)
     resize_it(state, button);
 }
 BENCHMARK(size_button_widget);
-
-void size_toggle_button_widget(benchmark::State& state)
-{
-    Toggle_button_widget button(around().icon, around().other_icon);
-    resize_it(state, button);
-}
-BENCHMARK(size_toggle_button_widget);
 
 void size_check_box_widget(benchmark::State& state)
 {
@@ -150,14 +145,19 @@ struct Live_screen
         pool.route(key);
     }
 
+    bool go_live(benchmark::State& state)
+    {
+        link.deaf = bool(pool.load(link));
+        if (!link.deaf)
+            state.SkipWithError("the pool was not loaded");
+        return link.deaf;
+    }
+
     /// Lets the operator release one control after the other.
     void release(benchmark::State& state, Iso::Function function, const std::vector<const VT::VT_obj*>& controls)
     {
-        if (!pool.load(link)) {
-            state.SkipWithError("the pool was not loaded");
+        if (!go_live(state))
             return;
-        }
-        link.deaf = true;
         std::vector<std::array<std::uint8_t, Iso::frame_size>> messages;
         for (const VT::VT_obj* const control : controls) {
             const Iso::Object_id id = control->get_id();
@@ -241,5 +241,22 @@ void release_check_box(benchmark::State& state)
             state.SkipWithError("not every release had one effect");
 }
 BENCHMARK(release_check_box);
+
+/// With all that has changed inside it, as the terminal is to be told.
+void resize_icon_text_button(benchmark::State& state)
+{
+    Live_screen screen;
+    Icon_text_button_widget button(screen.style);
+    screen.add(button);
+    if (!screen.go_live(state))
+        return;
+    alternate(state, [&](Dimension size) {
+        button.set_size(size);
+        button.root().upload(true);
+    });
+    if (!screen.pool.is_live())
+        state.SkipWithError("the pool is no longer live");
+}
+BENCHMARK(resize_icon_text_button);
 
 } // namespace

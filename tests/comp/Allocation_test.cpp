@@ -18,6 +18,11 @@
 #include "vtui/comp/widgets/Button_border_widget.h"
 #include "vtui/comp/widgets/Check_box_widget.h"
 #include "vtui/comp/widgets/Disable_widget.h"
+#include "vtui/comp/widgets/Function_key.h"
+#include "vtui/comp/widgets/Icon_text_button_widget.h"
+#include "vtui/comp/widgets/Icon_text_widget.h"
+#include "vtui/comp/widgets/Key_button_combo_widget.h"
+#include "vtui/comp/widgets/Key_widget.h"
 #include "vtui/comp/widgets/Labelled_input_widget.h"
 #include "vtui/comp/widgets/Placement_widget.h"
 #include "vtui/comp/widgets/Toggle_button_widget.h"
@@ -299,12 +304,14 @@ TEST_F(Allocation, IsNotNeededForANumberFieldInALivePool)
     expect_sent(1, [&] { units.write_texts(pool); });
 }
 
-/// One of each kind of button with what lies around it.
+/// One of each kind of button and key with what lies around it.
 struct Buttons
 {
     Connection_elements style;
     Rectangle_obj icon;
     Output_string_obj text;
+    String_variable_obj<4> name;
+    int runs{0};
 
     Button_widget plain{icon};
     Toggle_button_widget toggle{icon, text};
@@ -313,6 +320,20 @@ struct Buttons
     Button_border_widget button_border{style};
     Border_widget border{style};
     Disable_widget disable{style};
+    Icon_text_widget icon_text{style, nullptr};
+    Icon_text_button_widget icon_button{style};
+    Key_widget key;
+    Function_key function_key{[this] { ++runs; }};
+    Key_button_combo_widget combo{style};
+    Labelled_input_widget<Button_widget> labelled{&style.font_1, nullptr, icon};
+
+    Buttons()
+    {
+        icon_button.action = [this] { ++runs; };
+        key.set_content(&icon);
+        function_key.set_content(&icon);
+        combo.set_icon(&icon, &icon);
+    }
 
     void lay_out()
     {
@@ -324,6 +345,13 @@ struct Buttons
         background.set_size(size);
         button_border.set_size(size);
         border.set_size(size);
+        icon_text.set_size(size);
+        icon_button.set_size(size);
+        key.set_size(size);
+        function_key.set_size(size);
+        combo.set_size(size);
+        combo.soft_key.set_size(size);
+        labelled.set_size(labelled.get_preferred_size(), {5, 3});
     }
 
     void change()
@@ -338,6 +366,33 @@ struct Buttons
         disable.set_size({100, 40});
         button_border.handle_event(VT::VT_information{});
         border.handle_event(VT::VT_information{});
+        change_faces();
+        release();
+    }
+
+    void change_faces()
+    {
+        icon_text.set_icon(&text);
+        icon_text.set_text(&name);
+        icon_button.set_icon(&text);
+        icon_button.set_text(&name);
+        key.set_content(&text);
+        key.set_background_colour(3);
+        function_key.set_background_colour(3);
+        combo.set_icon(&text, &text);
+        combo.set_text(&name);
+        labelled.set_label(&name);
+    }
+
+    /// The operator lets go of whatever runs an action.
+    void release()
+    {
+        VT::Button_activation_event button{Iso::Activation::released, icon_button.button.button.get_id(),
+                                           VT::VT_obj::NULL_ID, 1};
+        icon_button.handle_event(button);
+        VT::Soft_key_activation_event soft_key{Iso::Activation::released, function_key.key.get_id(),
+                                               VT::VT_obj::NULL_ID, 1};
+        function_key.handle_event(soft_key);
     }
 };
 
@@ -347,6 +402,7 @@ TEST_F(Allocation, IsNotNeededForButtonsOutsideAPool)
                   Buttons buttons;
                   buttons.lay_out();
                   buttons.change();
+                  EXPECT_EQ(buttons.runs, 2);
               }),
               0U);
 }
@@ -357,12 +413,17 @@ TEST_F(Allocation, IsNotNeededForButtonsInALivePool)
     go_live(b.plain.container, b.plain.button, b.toggle.state_pointer, b.check_box.state_pointer, b.check_box.button,
             b.background.container, b.button_border.container, b.button_border.border, b.border.container,
             b.border.border, b.disable.state_pointer, b.text, b.icon, b.style.null_pointer, b.style.cover_512,
-            b.style.cover_128);
+            b.style.cover_128, b.icon_text.container, b.icon_text.caption, b.icon_button.button.container,
+            b.icon_button.button.button, b.icon_button.inner, b.icon_button.caption, b.key.key, b.function_key.key,
+            b.combo.container, b.combo.icon_text.container, b.combo.icon_text.caption, b.combo.soft_key.key,
+            b.labelled.container, b.labelled.label, b.name);
     parts::list_children(b.button_border.container);
     parts::list_children(b.border.container);
-    expect_sent(0, [&] { b.lay_out(); });
-    // An upload, two containers hidden, a toggle, a box set and flipped, a cover and another, two borders put back.
-    expect_sent(10, [&] { b.change(); });
+    expect_sent(1, [&] { b.lay_out(); }); // the button with icon and text uploads its margin
+    // An upload, two containers hidden, a toggle, a box set and flipped, a cover and another, two borders put back;
+    // four texts, two colours.
+    expect_sent(16, [&] { b.change(); });
+    EXPECT_EQ(b.runs, 2);
 }
 
 } // namespace

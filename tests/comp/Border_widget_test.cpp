@@ -17,10 +17,15 @@ template <class Border>
 class Borders : public ::testing::Test
 {
   protected:
-    void go_live()
+    void take_all()
     {
         pool.take(widget.border, border_id);
         take_parent(pool, widget.container, container_id);
+    }
+
+    void go_live()
+    {
+        take_all();
         pool.live = true;
     }
 
@@ -120,8 +125,7 @@ TYPED_TEST(Borders, TellALiveTerminalWhereTheyLieEveryTime)
 
 TYPED_TEST(Borders, TellATerminalNothingBeforeThePoolIsLive)
 {
-    this->go_live();
-    this->pool.live = false;
+    this->take_all();
     this->widget.placements.attributes[0].x = std::int16_t{7};
     this->widget.handle_event(VT::VT_information{});
     EXPECT_TRUE(this->pool.news().empty());

@@ -1,6 +1,6 @@
-#include "tests/Record_text.h"
 #include "tests/comp/Parts.h"
 #include "vtui/comp/objects/Output_string_obj.h"
+#include "vtui/comp/objects/Rectangle_obj.h"
 #include "vtui/comp/widgets/Button_widget.h"
 
 #include <type_traits>
@@ -70,17 +70,7 @@ TEST_F(ButtonWidget, StartsAsAContainerWithAButtonThatIsSmaller)
     EXPECT_EQ(&widget.root(), &widget.container);
 }
 
-TEST_F(ButtonWidget, HasAPlainButtonWithoutChildren)
-{
-    EXPECT_EQ(widget.button.get_id(), VT::VT_obj::NULL_ID);
-    EXPECT_STREQ(widget.button.get_name(), "");
-    EXPECT_EQ(
-        Record_text::values_of(widget.button),
-        (Record_text::Lines{"u16 width 200", "u16 height 200", "colour background_colour 0", "colour border_colour 0",
-                            "u8 key_code 1", "u8 options 0", "count u8 0", "count u8 0"}));
-    EXPECT_EQ(widget.button.placements_ptr, nullptr);
-    EXPECT_EQ(widget.button.macros_ptr, nullptr);
-}
+TEST_F(ButtonWidget, HasAPlainButtonWithoutChildren) { expect_new_button(widget.button); }
 
 TEST_F(ButtonWidget, PlacesItsContentTwiceOverTheButton)
 {

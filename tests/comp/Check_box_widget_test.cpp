@@ -1,4 +1,3 @@
-#include "tests/Record_text.h"
 #include "tests/comp/Parts.h"
 #include "vtui/comp/widgets/Check_box_widget.h"
 
@@ -82,17 +81,7 @@ TEST_F(CheckBoxWidget, PlacesABlankBetweenItsButtonAndItsLook)
     EXPECT_FALSE(std::is_polymorphic_v<Check_box_widget>);
 }
 
-TEST_F(CheckBoxWidget, HasAPlainButtonWithoutChildren)
-{
-    EXPECT_EQ(widget.button.get_id(), VT::VT_obj::NULL_ID);
-    EXPECT_STREQ(widget.button.get_name(), "");
-    EXPECT_EQ(
-        Record_text::values_of(widget.button),
-        (Record_text::Lines{"u16 width 200", "u16 height 200", "colour background_colour 0", "colour border_colour 0",
-                            "u8 key_code 1", "u8 options 0", "count u8 0", "count u8 0"}));
-    EXPECT_EQ(widget.button.placements_ptr, nullptr);
-    EXPECT_EQ(widget.button.macros_ptr, nullptr);
-}
+TEST_F(CheckBoxWidget, HasAPlainButtonWithoutChildren) { expect_new_button(widget.button); }
 
 TEST_F(CheckBoxWidget, IsCheckedByItsOwner)
 {

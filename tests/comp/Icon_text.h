@@ -1,9 +1,9 @@
 #ifndef TESTS_COMP_ICON_TEXT_H
 #define TESTS_COMP_ICON_TEXT_H
 
-#include "tests/Record_text.h"
 #include "tests/comp/Parts.h"
 #include "vtui/comp/Connection_elements.h"
+#include "vtui/comp/objects/Output_string_obj.h"
 
 #include <initializer_list>
 #include <string>
@@ -12,7 +12,6 @@ namespace icon_text {
 
 using namespace VT::Comp;
 using namespace parts;
-using number_field::Text;
 using Lines = Record_text::Lines;
 
 /// What an icon with a text borrows: a style with letters of 6 × 8, icons, texts, and a pool for all of it.

@@ -264,7 +264,7 @@ TEST_F(IconTextButtonWidgetDeathTest, ALayoutWithoutAnIconEndsTheProcess)
     EXPECT_DEATH(widget.set_size({120, 100}), no_child("Array_array_2"));
 }
 
-TEST_F(IconTextButtonWidgetDeathTest, CopyingEndsTheProcess)
+TEST_F(IconTextButtonWidgetDeathTest, AVectorCannotMoveIt)
 {
     expect_no_second_in_a_vector<Icon_text_button_widget>(style);
 }

@@ -198,7 +198,7 @@ TEST_F(IconTextWidgetDeathTest, ALayoutWithoutAnIconEndsTheProcess)
     EXPECT_DEATH(widget.set_size({100, 80}), no_child("Array_array_2"));
 }
 
-TEST_F(IconTextWidgetDeathTest, CopyingEndsTheProcess)
+TEST_F(IconTextWidgetDeathTest, AVectorCannotMoveIt)
 {
     expect_no_second_in_a_vector<Icon_text_widget>(style, &style.font_2);
 }

@@ -145,7 +145,7 @@ TEST_F(LabelledButtonDeathTest, ALayoutWithAnEmptySlotEndsTheProcess)
     EXPECT_DEATH(field.set_size({200, 100}, {5, 3}), no_child("Array_array_3"));
 }
 
-TEST_F(LabelledButtonDeathTest, CopyingEndsTheProcess)
+TEST_F(LabelledButtonDeathTest, AVectorCannotMoveIt)
 {
     expect_no_second_in_a_vector<Labelled>(&label_font, &fill.variable, icon);
 }

@@ -1,44 +1,22 @@
 #ifndef TESTS_COMP_NUMBER_FIELD_H
 #define TESTS_COMP_NUMBER_FIELD_H
 
-#include "tests/Bytes.h"
-#include "tests/Fake_pool.h"
+#include "tests/comp/Parts.h"
 #include "vtui/comp/objects/Rectangle_obj.h"
 #include "vtui/comp/widgets/Number_widget.h"
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-#include <string>
 #include <utility>
 #include <vector>
 
-namespace VT::Comp {
-
-inline bool operator==(Dimension a, Dimension b) { return a.width == b.width && a.height == b.height; }
-inline bool operator==(Point a, Point b) { return a.x == b.x && a.y == b.y; }
-inline std::ostream& operator<<(std::ostream& out, Dimension d) { return out << d.width << " x " << d.height; }
-inline std::ostream& operator<<(std::ostream& out, Point p) { return out << p.x << ", " << p.y; }
-
-} // namespace VT::Comp
-
 namespace number_field {
 
+using parts::Journal;
+using parts::Text;
 using VT::Comp::Number_widget;
 using Specification = Number_widget::Specification;
 using Style = Number_widget::Style;
-
-/// A string variable that is as long as its text.
-struct Text
-{
-    explicit Text(std::string text)
-        : buffer(std::move(text)),
-          variable(VT::VT_obj::NULL_ID, nullptr, static_cast<std::uint16_t>(buffer.size()), buffer.data())
-    {}
-
-    std::string buffer;
-    VT::String_variable_obj variable;
-};
 
 /// A field that writes down what its operator did.
 class Listener : public Number_widget
@@ -48,20 +26,6 @@ class Listener : public Number_widget
     void handle_input_value(double v) override { heard.push_back(v); }
 
     std::vector<double> heard;
-};
-
-/// A pool that writes uploads down between the messages: as transfers of which only the id is told.
-class Journal final : public Fake_pool
-{
-  public:
-    void upload(VT::VT_obj& object) override
-    {
-        Fake_pool::upload(object);
-        sent.push_back(join(0x11, w(object.get_id())));
-    }
-
-    /// What was sent since the last time.
-    Messages news() { return std::exchange(sent, {}); }
 };
 
 constexpr Specification bounded(double min, double max, double scale = 1, std::uint8_t decimals = 0,

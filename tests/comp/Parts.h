@@ -1,22 +1,63 @@
 #ifndef TESTS_COMP_PARTS_H
 #define TESTS_COMP_PARTS_H
 
+#include "tests/Bytes.h"
 #include "tests/Death.h"
-#include "tests/comp/Number_field.h"
+#include "tests/Fake_pool.h"
+#include "tests/Record_text.h"
+#include "vtui/comp/objects/Button_obj.h"
 #include "vtui/comp/objects/Container_obj.h"
+#include "vtui/comp/objects/Dimension.h"
+#include "vtui/comp/objects/Has_child_placements.h"
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
+
+namespace VT::Comp {
+
+inline bool operator==(Dimension a, Dimension b) { return a.width == b.width && a.height == b.height; }
+inline bool operator==(Point a, Point b) { return a.x == b.x && a.y == b.y; }
+inline std::ostream& operator<<(std::ostream& out, Dimension d) { return out << d.width << " x " << d.height; }
+inline std::ostream& operator<<(std::ostream& out, Point p) { return out << p.x << ", " << p.y; }
+
+} // namespace VT::Comp
 
 /// What the tests of composed components share.
 namespace parts {
 
-using number_field::Journal;
 using VT::Comp::Child_placements;
 using VT::Comp::Container_obj;
 using VT::Comp::Point;
+
+/// A string variable that is as long as its text.
+struct Text
+{
+    explicit Text(std::string text)
+        : buffer(std::move(text)),
+          variable(VT::VT_obj::NULL_ID, nullptr, static_cast<std::uint16_t>(buffer.size()), buffer.data())
+    {}
+
+    std::string buffer;
+    VT::String_variable_obj variable;
+};
+
+/// A pool that writes uploads down between the messages: as transfers of which only the id is told.
+class Journal final : public Fake_pool
+{
+  public:
+    void upload(VT::VT_obj& object) override
+    {
+        Fake_pool::upload(object);
+        sent.push_back(join(0x11, w(object.get_id())));
+    }
+
+    /// What was sent since the last time.
+    Messages news() { return std::exchange(sent, {}); }
+};
 
 // The messages of a live pool, as bytes.
 
@@ -70,6 +111,19 @@ inline void expect_new(const Container_obj& container, const Child_placements& c
     EXPECT_EQ(container.num_macros, 0);
     EXPECT_EQ(container.macros_ptr, nullptr);
     EXPECT_EQ(container.placements_ptr, &children);
+}
+
+/// A button as it is constructed.
+inline void expect_new_button(VT::Comp::Button_obj& button)
+{
+    EXPECT_EQ(button.get_id(), VT::VT_obj::NULL_ID);
+    EXPECT_STREQ(button.get_name(), "");
+    EXPECT_EQ(
+        Record_text::values_of(button),
+        (Record_text::Lines{"u16 width 200", "u16 height 200", "colour background_colour 0", "colour border_colour 0",
+                            "u8 key_code 1", "u8 options 0", "count u8 0", "count u8 0"}));
+    EXPECT_EQ(button.placements_ptr, nullptr);
+    EXPECT_EQ(button.macros_ptr, nullptr);
 }
 
 inline void expect_child(Child_placements& children, std::size_t i, const VT::VT_obj& child, Point place)

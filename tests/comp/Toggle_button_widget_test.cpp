@@ -1,4 +1,5 @@
 #include "tests/comp/Parts.h"
+#include "vtui/comp/objects/Rectangle_obj.h"
 #include "vtui/comp/widgets/Toggle_button_widget.h"
 
 #include <array>
@@ -42,6 +43,13 @@ class ToggleButtonWidget : public ::testing::Test
         EXPECT_EQ(widget.is_on(), is_on);
         EXPECT_EQ(widget.state_pointer.state, is_on ? 1U : 0U);
         EXPECT_EQ(widget.state_pointer.target, is_on ? &on : &off);
+    }
+
+    /// The children as the record has them.
+    void expect_written(std::size_t i, Iso::Object_id id, Point place)
+    {
+        EXPECT_EQ(widget.placements.attributes[i].object_id, id) << "child " << i;
+        EXPECT_EQ(written(widget.placements, i), place) << "child " << i;
     }
 
     static constexpr Iso::Object_id container_id = 0x1001;
@@ -168,17 +176,24 @@ TEST_F(ToggleButtonWidget, IsSizedAsAButtonIs)
     EXPECT_EQ(size_of(widget.state_pointer), Dimension(25, 10));
 }
 
-TEST_F(ToggleButtonWidget, MayCarryItsPointerElsewhereOrUnderAnotherContent)
+TEST_F(ToggleButtonWidget, ShowsItsPointerTwiceWhenItIsItsUpperContent)
 {
     go_live();
     widget.set_content({&widget.state_pointer, 40, 10});
     EXPECT_EQ(pool.news(), (Messages{transfer(container_id)}));
-    EXPECT_EQ(written(widget.placements, 1), Point(0, 0));
-    EXPECT_EQ(written(widget.placements, 2), Point(40, 10));
+    expect_written(1, pointer_id, {0, 0});
+    expect_written(2, pointer_id, {40, 10});
+}
+
+TEST_F(ToggleButtonWidget, KeepsItsPointerUnderAnotherContent)
+{
+    go_live();
     widget.set_content({&other, 1, 2});
     EXPECT_EQ(pool.news(), (Messages{transfer(container_id)}));
-    EXPECT_EQ(widget.placements.attributes[1].object_id, pointer_id);
-    EXPECT_EQ(widget.placements.attributes[2].object_id, other_id);
+    expect_written(1, pointer_id, {0, 0});
+    expect_written(2, other_id, {1, 2});
+    widget.toggle();
+    EXPECT_EQ(pool.news(), (Messages{numeric_value(pointer_id, on_id)})) << "switched all the same";
 }
 
 TEST_F(ToggleButtonWidget, HidesAndKnowsItsButtonAsAButtonDoes)

@@ -1,11 +1,14 @@
-// Buttons and keys in a live pool: what the bytes of an activation do.
+// Buttons, keys, borders and covers in a live pool: the bytes that come in and what goes out.
 
 #include "tests/pool/Fake_terminal.h"
 #include "tests/pool/Screen.h"
 #include "vtui/comp/Connection_elements.h"
+#include "vtui/comp/widgets/Border_widget.h"
 #include "vtui/comp/widgets/Check_box_widget.h"
+#include "vtui/comp/widgets/Disable_widget.h"
 #include "vtui/comp/widgets/Function_key.h"
 #include "vtui/comp/widgets/Icon_text_button_widget.h"
+#include "vtui/comp/widgets/Key_button_combo_widget.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -191,6 +194,122 @@ TEST_F(ButtonRoutes, LetAnActionChangeWhatItsScreenShows)
     EXPECT_TRUE(is_checked());
     EXPECT_EQ(terminal.take_sent(),
               (Messages{frame(0xA8, w(boxes[1].state_pointer.get_id()), 0xFF, d(checked.get_id()))}));
+}
+
+/// A screen for one component, still without it.
+class OneOnAScreen : public ::testing::Test, protected Screen
+{
+  protected:
+    void go_live()
+    {
+        const VT::Result result = pool.load(terminal);
+        ASSERT_TRUE(result) << result.text();
+        terminal.take_sent();
+    }
+
+    C::Connection_elements style;
+    Fake_terminal terminal;
+};
+
+using BorderRoute = OneOnAScreen;
+
+TEST_F(BorderRoute, PutsTheEdgeBackWhenTheTerminalSpeaksUp)
+{
+    C::Border_widget border(style);
+    border.set_size({100, 50});
+    mask.add(border.root(), 20, 30);
+    pool.route(border);
+    go_live();
+    say(pool, frame(0xC7, 0xFF, 2, 3, w(480), w(480)));
+    EXPECT_EQ(terminal.take_sent(), (Messages{join(0xB4, w(border.container.get_id()), w(border.border.get_id()), //
+                                                   0x03, 0x00, 0x03, 0x00)}));
+}
+
+/// A page of an application's, with a command that it offers twice.
+struct Page
+{
+    explicit Page(C::Connection_elements& style) : command(style) {}
+
+    void handle_event(VT::Button_activation_event& event) { count(event.object_id, event.activation_code); }
+    void handle_event(VT::Soft_key_activation_event& event) { count(event.object_id, event.activation_code); }
+
+    C::Key_button_combo_widget command;
+    int given{0};
+
+  private:
+    void count(Iso::Object_id id, Iso::Activation activation)
+    {
+        if (command.is_button_or_key_id(id) && activation == Iso::Activation::released)
+            ++given;
+    }
+};
+
+using ComboRoute = OneOnAScreen;
+
+TEST_F(ComboRoute, LeadsButtonAndSoftKeyToTheClassThatHoldsBoth)
+{
+    C::Rectangle_obj icon;
+    VT::Soft_key_mask_obj keys_beside;
+    Page page(style);
+    page.command.set_icon(&icon, &icon);
+    page.command.set_size({120, 60});
+    mask.add(page.command.root(), 0, 0);
+    keys_beside.add(page.command.get_soft_key());
+    mask.set_soft_key_mask(&keys_beside);
+    pool.route(page);
+    go_live();
+
+    const int button = page.command.button.button.get_id();
+    const int key = page.command.get_soft_key().get_id();
+    say(pool, frame(0x01, released, w(button), w(mask.get_id()), 1));
+    EXPECT_EQ(page.given, 1);
+    say(pool, frame(0x00, released, w(key), w(keys_beside.get_id()), 1));
+    EXPECT_EQ(page.given, 2);
+    for (const int activation : {pressed, held, aborted}) {
+        say(pool, frame(0x01, activation, w(button), w(mask.get_id()), 1));
+        say(pool, frame(0x00, activation, w(key), w(keys_beside.get_id()), 1));
+    }
+    EXPECT_EQ(page.given, 2);
+    EXPECT_TRUE(terminal.take_sent().empty());
+}
+
+/// A disabled area of 32 × 10 that grows when the pool is live.
+class DisabledArea : public OneOnAScreen
+{
+  protected:
+    void go_live_and_grow()
+    {
+        disable.set_size({32, 10});
+        disable.set_disabled(true);
+        mask.add(disable.root(), 0, 0);
+        go_live();
+        EXPECT_EQ(disable.root().value, style.cover_tile.get_id());
+        disable.set_size({100, 40});
+    }
+
+    Messages shows(Iso::Object_id id) const { return {frame(0xA8, w(disable.state_pointer.get_id()), 0xFF, d(id))}; }
+
+    C::Disable_widget disable{style};
+};
+
+TEST_F(DisabledArea, TakesALargerCoverWhenAllHaveBeenAdded)
+{
+    pool.add(style.cover.root());
+    go_live_and_grow();
+    ASSERT_NE(style.cover_128.get_id(), Iso::null_id);
+    EXPECT_EQ(terminal.take_sent(), shows(style.cover_128.get_id()));
+    EXPECT_TRUE(pool.take_problems().empty());
+}
+
+TEST_F(DisabledArea, LooksEnabledWithACoverThatThePoolDoesNotHave)
+{
+    go_live_and_grow();
+    EXPECT_EQ(style.cover_128.get_id(), Iso::null_id);
+    EXPECT_EQ(terminal.take_sent(), shows(Iso::null_id));
+    const std::vector<VT::Problem> problems = pool.take_problems();
+    ASSERT_EQ(problems.size(), 1U);
+    EXPECT_EQ(problems[0].error, VT::Error::suspicious_value);
+    EXPECT_EQ(problems[0].id, disable.root().get_id());
 }
 
 } // namespace

@@ -20,7 +20,7 @@ class VTUI_EXPORT Button_background_widget
     bool is_hidden() const { return container.hidden != 0; }
 
     Dimension get_size() const { return size_of(container); }
-    /// Pixels, by the size that the style has now. Sends nothing.
+    /// Pixels, by the size that the style has now. Sends nothing: in a live pool follow with root().upload(true).
     void set_size(Dimension size);
 
     Container_obj& root() { return container; }

@@ -6,7 +6,7 @@
 
 namespace VT::Comp {
 
-/// The shadow edge of a button: in grey, colour 111. The style outlives it.
+/// The shadow edge of a button: colour 111, a light blue. The style outlives it.
 class VTUI_EXPORT Button_border_widget : public Shadow_edge
 {
   public:

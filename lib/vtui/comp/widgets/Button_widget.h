@@ -34,8 +34,10 @@ class VTUI_EXPORT Button_widget
     /// A button has no contents to lay out: box and origin are ignored.
     void set_size(Dimension size, Dimension, Point) { set_size(size); }
 
-    /// Replaces the upper content and its place. If the widget has ids, the container is uploaded.
+    /// Replaces the upper content and its place. An object of the pool, never null: that ends the process. If the
+    /// widget has ids, the container is uploaded.
     void set_content(Child_placement content);
+    /// What is changed there shows with the next set_size() and upload.
     Child_placement& get_content() { return placements.placements[2]; }
 
     bool is_button_id(unsigned short id) const { return button.get_id() == id; }

@@ -25,8 +25,8 @@ class VTUI_EXPORT Check_box_widget
 
     /// Pixels: room for both looks.
     Dimension get_preferred_size() const;
-    /// Pixels. The present look is put in the middle; that is written out with the pool only, not here: later sizes
-    /// need placements.deref() and an upload of root().
+    /// Pixels. The present look is put in the middle, and a switch moves nothing: give both looks one size. It is
+    /// written out with the pool only, not here: later sizes need placements.deref() and an upload of root().
     void set_size(Dimension size);
 
     using Handled_events = Event_list<Button_activation_event>;

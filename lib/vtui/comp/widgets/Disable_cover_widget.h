@@ -24,6 +24,7 @@ class VTUI_EXPORT Disable_cover_widget_impl
     static_assert(DEPTH >= 2 && DEPTH <= 5);
 
   public:
+    static constexpr unsigned depth = DEPTH;
     static constexpr std::uint16_t side = 1U << (DEPTH + 4);
 
     Disable_cover_widget_impl();

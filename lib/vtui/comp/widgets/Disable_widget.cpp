@@ -12,7 +12,8 @@ void Disable_widget::set_size(Dimension size)
 {
     const std::uint16_t side = std::max(size.width, size.height);
     if (side > elements.cover.side)
-        no_larger_cover(5, "../../../../lib/vtui/comp/widgets/Disable_cover_widget");
+        // root_at_size() would name its own source: the two texts differ.
+        no_larger_cover(elements.cover.depth, "../../../../lib/vtui/comp/widgets/Disable_cover_widget");
     state_pointer.states = {&elements.null_pointer, elements.cover.root_at_size(side)};
     state_pointer.set_state(state_pointer.state);
 }

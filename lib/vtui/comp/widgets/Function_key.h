@@ -13,7 +13,7 @@ class VTUI_EXPORT Function_key : public Key_widget
 {
   public:
     Function_key() = default;
-    Function_key(std::function<void()> its_action);
+    explicit Function_key(std::function<void()> its_action);
 
     Key_obj& root() { return key; }
 
@@ -23,7 +23,7 @@ class VTUI_EXPORT Function_key : public Key_widget
     /// is a mistake.
     void handle_event(Soft_key_activation_event& event);
 
-    std::function<void()> action;
+    std::function<void()> action; ///< captures above two pointers allocate; it must not replace itself while it runs
 };
 
 } // namespace VT::Comp

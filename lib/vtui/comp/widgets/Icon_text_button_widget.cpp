@@ -7,10 +7,7 @@ namespace VT::Comp {
 Icon_text_button_widget::Icon_text_button_widget(Connection_elements& elements) : button(elements.rect_17_patterned)
 {
     button.set_content({&inner, 0, 0});
-    construct_caption(caption, elements.font_1);
-    placements.placements[0] = {&elements.rect_17_patterned, 0, 0};
-    placements.placements[1] = {&caption, 0, 0};
-    inner.placements_ptr = &placements;
+    construct_icon_and_caption(inner, placements, caption, elements, elements.font_1);
 }
 
 void Icon_text_button_widget::set_size(Dimension size)
@@ -28,7 +25,7 @@ void Icon_text_button_widget::set_size(Dimension size)
     Child_placement& text = placements.placements[1];
     const Dimension picture = size_of(icon);
     icon.x = centred(room.width, picture.width);
-    text.x = centred(room.width, caption.width);
+    text.x = 0; // as wide as its parent
     text.y = position(room.height - caption.height);
     icon.y = position((room.height - caption.height - picture.height) / 2);
     placements.deref();

@@ -27,8 +27,7 @@ class VTUI_EXPORT Icon_text_button_widget
     void set_text(VT::String_variable_obj* text) { caption.set_variable(text); }
 
     /// Pixels. If the widget has ids, the button's container is uploaded once, before its new sizes are known: follow
-    /// with root().upload(true). A null icon ends the process, here or when the pool is
-    /// prepared.
+    /// with root().upload(true). A null icon ends the process, here or when the pool is prepared.
     void set_size(Dimension size);
 
     using Handled_events = Event_list<Button_activation_event>;
@@ -46,7 +45,8 @@ class VTUI_EXPORT Icon_text_button_widget
     Output_string_obj caption;
     Container_obj inner;
     Child_placements_array<Array_array_2> placements;
-    std::function<void()> action; ///< the application's to set
+    /// The application's to set. Captures above two pointers allocate; it must not replace itself while it runs.
+    std::function<void()> action;
 };
 
 } // namespace VT::Comp

@@ -6,10 +6,7 @@ namespace VT::Comp {
 
 Icon_text_widget::Icon_text_widget(Connection_elements& elements, VT::Font_attributes_obj* font)
 {
-    construct_caption(caption, font ? *font : elements.font_1);
-    placements.placements[0] = {&elements.rect_17_patterned, 0, 0};
-    placements.placements[1] = {&caption, 0, 0};
-    container.placements_ptr = &placements;
+    construct_icon_and_caption(container, placements, caption, elements, font ? *font : elements.font_1);
 }
 
 void Icon_text_widget::set_size(Dimension size)
@@ -23,7 +20,7 @@ void Icon_text_widget::set_size(Dimension size)
     icon.x = centred(size.width, picture.width);
     // The sum has 16 bits, as sizes have.
     icon.y = centred(size.height, static_cast<std::uint16_t>(picture.height + caption.height));
-    text.x = centred(size.width, caption.width);
+    text.x = 0; // as wide as its parent
     text.y = position(icon.y + picture.height);
     placements.deref();
 }

@@ -1,7 +1,5 @@
 #include "vtui/comp/widgets/Key_button_combo_widget.h"
 
-#include "util/Conversion.h"
-
 namespace VT::Comp {
 
 Key_button_combo_widget::Key_button_combo_widget(Connection_elements& elements)
@@ -17,10 +15,7 @@ void Key_button_combo_widget::set_size(Dimension size)
 {
     button.set_size(size);
     border.set_size(size);
-    const auto face = [](std::uint16_t side) {
-        constexpr double larger_than_its_face = 1.2;
-        return static_cast<std::uint16_t>(Conversion::to_int32(side / larger_than_its_face));
-    };
+    const auto face = [](std::uint16_t side) { return static_cast<std::uint16_t>(side * 5 / 6); };
     icon_text.set_size({face(size.width), face(size.height)});
     centre(placements.placements[1], size);
     placements.deref();

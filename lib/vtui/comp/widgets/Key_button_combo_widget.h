@@ -18,11 +18,14 @@ class VTUI_EXPORT Key_button_combo_widget
     /// The style outlives the widget.
     explicit Key_button_combo_widget(Connection_elements& elements);
 
-    /// Pixels of the button. The container stays 240 × 240, and the soft key as it is. Sends nothing. Ends the process
-    /// if the button's icon is null.
+    /// Pixels of the button. The container stays 240 × 240, so a larger button is cut: size root() yourself. The soft
+    /// key stays as it is. Sends nothing: in a live pool follow with root().upload(true). Ends the process if the
+    /// button's icon is null.
     void set_size(Dimension size);
 
-    /// Both icons are needed before the pool is prepared and stay the application's.
+    /// Both icons are needed before the pool is prepared and stay the application's. In a live pool follow with
+    /// set_size() and root().upload(true), and for the key, which is no child of root(), with soft_key.set_size() and
+    /// get_soft_key().upload(true).
     void set_icon(VT::VT_obj* button_icon, VT::VT_obj* key_icon);
     /// The caption of the button; sends Change Attribute if the pool is live. The soft key has no text.
     void set_text(VT::String_variable_obj* text) { icon_text.set_text(text); }

@@ -13,8 +13,8 @@ class VTUI_EXPORT Key_widget
   public:
     Key_widget() { key.placements_ptr = &placements; }
 
-    /// An object of the pool. Shows with the pool or, in a live one, with the next set_size() and key.upload(true). A
-    /// key without content ends the process when the pool is prepared.
+    /// An object of the pool, at the top left corner until the next set_size(). Shows with the pool or, in a live one,
+    /// with the next set_size() and key.upload(true). A key without content ends the process when the pool is prepared.
     void set_content(VT::VT_obj* content) { placements.placements[0] = {content, 0, 0}; }
 
     /// Sends Change Background Colour if the pool is live.
@@ -27,7 +27,7 @@ class VTUI_EXPORT Key_widget
 
     bool is_key_id(unsigned short id) const { return key.get_id() == id; }
 
-    Key_obj key;
+    Key_obj key; ///< its key_code is 1 in every key and must not be 0
     Child_placements_array<Array_array_1> placements;
 };
 

@@ -10,8 +10,9 @@
 namespace VT::Comp {
 
 /// An input component with a line of text above it. The input covers the whole area, so that a touch on the label means
-/// the input too; a button's contents are where its owner puts them (Button_widget::set_content). Events go to the
-/// input: route `input`, or what handles the button's.
+/// the input too. Events go to the input: route `input`, or what handles the button's. Construct a button with
+/// `style.null_pointer`, which shows nothing, and give its content by `input.set_content()`: the constructor's stays at
+/// the top left, under the label.
 template <class Input>
 class VTUI_EXPORT Labelled_input_widget
 {
@@ -31,6 +32,8 @@ class VTUI_EXPORT Labelled_input_widget
     }
 
     /// Pixels: the label, with room for all the characters that its variable may have, above the input; no margin.
+    /// Without a text or a font it is the input's size alone, although set_size() keeps a line free wherever there is a
+    /// font.
     Dimension get_preferred_size() const;
     /// Makes the field `size` pixels large, with the label `margin` away from the top left corner and the input's
     /// contents below it, moved by as much: what hugs the right edge then overhangs. Sends nothing: in a live pool

@@ -13,13 +13,14 @@ namespace VT::Comp {
 class VTUI_EXPORT Shadow_edge
 {
   public:
-    /// Pixels; sends nothing. The rectangle is three pixels narrower and lower, unchecked: below three it becomes huge.
+    /// Pixels. The rectangle is three pixels narrower and lower, unchecked: below three it becomes huge. Sends nothing:
+    /// in a live pool follow with root().upload(true).
     void set_size(Dimension size);
 
     using Handled_events = Event_list<const VT_information>;
 
-    /// Puts the rectangle back in its place, whatever the terminal says; sends Change Child Position if the pool is
-    /// live.
+    /// Puts the rectangle back to (3, 3), whatever the terminal says; sends Change Child Position if the pool is live.
+    /// In the terminal's pixels, also in a pool that was scaled: don't route borders there.
     void handle_event(const VT_information& terminal);
 
     Container_obj& root() { return container; }

@@ -7,7 +7,8 @@
 namespace VT::Comp {
 
 /// A button that shows one of two objects of the application's. It does not switch itself: its owner does, when the
-/// button is activated or for any other reason. Off at first.
+/// button is activated or for any other reason. Off at first. The looks stay at the top left corner; set_content()
+/// lays another object over them and does not move them.
 class VTUI_EXPORT Toggle_button_widget : public Button_widget
 {
   public:
