@@ -156,9 +156,12 @@ void for_each_link(const Kind& kind, VT_obj& object, F&& link)
 template <typename F>
 void for_each_reachable(const Kind& kind, VT_obj& object, F&& reach)
 {
-    if (Comp::Child_placements* const children = placements_of(kind, object))
+    if (Comp::Child_placements* const children = placements_of(kind, object)) {
         for (std::size_t i = 0; i < children->size(); ++i)
             reach(children->placement(i).ref);
+        for (std::size_t i = 0; VT_obj* const apart = children->detached(i); ++i)
+            reach(apart);
+    }
     if (kind.is_parent)
         for (VT_obj* const child : static_cast<Parent_obj&>(object).get_children())
             reach(child);

@@ -29,6 +29,17 @@ void Container_obj::set_child_location(std::uint8_t index, std::int16_t x, std::
     }
 }
 
+void Container_obj::set_child_location(std::uint8_t index, Iso::Object_id child, std::int16_t x, std::int16_t y,
+                                       bool always)
+{
+    if (index >= num_objects)
+        return;
+    objects[index].object_id = child;
+    objects[index].x = x;
+    objects[index].y = y;
+    upload(always);
+}
+
 void Container_obj::visit(Attribute_visitor& visitor)
 {
     visit_size(visitor, 1);

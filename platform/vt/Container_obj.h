@@ -26,6 +26,9 @@ class VTUI_EXPORT Container_obj : public Sized_obj, public Object_list, public M
     /// Position if the pool is live. The command knows a child by its id only: where the list holds that child twice,
     /// the whole container is sent again instead. An index beyond the list, as before the pool exists, is ignored.
     void set_child_location(std::uint8_t index, std::int16_t x, std::int16_t y);
+    /// Puts another object of the pool in the place of the child at `index`, at x, y. No command says that, so in a
+    /// live pool the container is uploaded: always, or only if anything in it has changed.
+    void set_child_location(std::uint8_t index, Iso::Object_id child, std::int16_t x, std::int16_t y, bool always);
 
     void visit(Attribute_visitor& visitor) override;
 };

@@ -210,6 +210,7 @@ TEST_F(IconTextButtonWidget, RunsItsActionOnceWithEveryRelease)
     int runs = 0;
     widget.action = [&] { ++runs; };
     take();
+    pool.live = true;
     activate(button_id);
     EXPECT_EQ(runs, 1);
     activate(button_id);
@@ -242,6 +243,7 @@ TEST_F(IconTextButtonWidget, DoesNothingForOtherButtons)
 TEST_F(IconTextButtonWidget, MayHaveNoAction)
 {
     take();
+    pool.live = true;
     EXPECT_NO_THROW(activate(button_id));
     widget.action = [] {};
     widget.action = nullptr;

@@ -80,6 +80,43 @@ TEST_F(ChangeCommand, IgnoresAChildBeyondTheList)
     EXPECT_FALSE(children[1].changed());
 }
 
+TEST_F(ChangeCommand, SendsTheContainerAgainToExchangeAChild)
+{
+    VT::Attribute_object_placement children[2];
+    children[1].object_id = std::uint16_t{8};
+    auto object = objects::container(children, 2);
+    go_live(object);
+    object.set_child_location(1, 9, -5, 6, true);
+    EXPECT_EQ(children[1].object_id, 9);
+    EXPECT_EQ(children[1].x, -5);
+    EXPECT_EQ(children[1].y, 6);
+    EXPECT_TRUE(pool.sent.empty());
+    EXPECT_EQ(pool.uploaded, (std::vector<VT::VT_obj*>{&object}));
+
+    object.set_child_location(2, 9, -5, 6, true);
+    EXPECT_EQ(pool.uploaded.size(), 1U) << "there is no such child";
+}
+
+TEST_F(ChangeCommand, ExchangesAChildForItselfOnlyIfAsked)
+{
+    VT::Attribute_object_placement children[1];
+    children[0].object_id = std::uint16_t{8};
+    auto object = objects::container(children, 1);
+    for (VT::Attribute_object_placement& child : children) {
+        child.object_id.set_told();
+        child.x.set_told();
+        child.y.set_told();
+    }
+    go_live(object);
+    ASSERT_FALSE(object.is_changed());
+    object.set_child_location(0, 8, 0, 0, false);
+    EXPECT_TRUE(pool.uploaded.empty());
+    object.set_child_location(0, 8, 0, 0, true);
+    EXPECT_EQ(pool.uploaded.size(), 1U);
+    object.set_child_location(0, 8, 0, 1, false);
+    EXPECT_EQ(pool.uploaded.size(), 2U);
+}
+
 TEST_F(ChangeCommand, ChangesASize)
 {
     auto object = objects::rectangle();

@@ -97,6 +97,24 @@ TEST(PoolCollecting, FindsThroughContainersButtonsAndKeys)
     EXPECT_EQ(container.parent.objects[0].y, -2);
 }
 
+TEST(PoolCollecting, TakesInWhatAComponentKeepsDetached)
+{
+    C::Rectangle_obj child;
+    C::Rectangle_obj in_key;
+    With_child<C::Key_obj> key(&in_key, 5, 6);
+    C::Rectangle_obj other;
+    C::Container_obj container;
+    C::Child_placements_and_detached<Array_array_1, 2> children;
+    children.placements[0].ref = &child;
+    children.detached_objects = {&key.parent, &other};
+    container.placements_ptr = &children;
+    Screen screen;
+    screen.mask.add(container, 0, 0);
+    ASSERT_TRUE(screen.pool.prepare());
+    EXPECT_EQ(ids({&container, &child, &key.parent, &in_key, &other}), (Ids{2, 3, 4, 5, 6}));
+    EXPECT_EQ(container.num_objects, 1) << "none of them is a child";
+}
+
 TEST(PoolCollecting, FindsTheFaceAndAllMasksOfTheWorkingSet)
 {
     C::Rectangle_obj face;

@@ -7,6 +7,7 @@
 #include "vtui/comp/objects/Array_array.h"
 #include "vtui/comp/objects/Dimension.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -48,6 +49,9 @@ class VTUI_EXPORT Child_placements
 
     /// The placement of child `i`, for the pool: it has to find the children before they have ids.
     virtual Child_placement& placement(std::size_t i) = 0;
+    /// Object `i` of those that the component shows only at times, through pointers, for the pool: it takes them in
+    /// with the children. Null behind the last.
+    virtual VT::VT_obj* detached(std::size_t) { return nullptr; }
 };
 
 template <template <typename> class Array_type>
@@ -61,6 +65,16 @@ class Child_placements_array : public Child_placements
     std::size_t size() const override { return attributes.size(); }
     void deref() override;
     Child_placement& placement(std::size_t i) override { return placements[i]; }
+};
+
+/// Beside the placements, N objects that the component shows only at times.
+template <template <typename> class Array_type, std::size_t N>
+class Child_placements_and_detached : public Child_placements_array<Array_type>
+{
+  public:
+    std::array<VT::VT_obj*, N> detached_objects{}; ///< not owned
+
+    VT::VT_obj* detached(std::size_t i) override { return i < N ? detached_objects[i] : nullptr; }
 };
 
 template <template <typename> class Array_type>
