@@ -25,7 +25,8 @@ using Event = std::variant<Soft_key_activation_event*, Button_activation_event*,
                            Units_man*>;
 
 /// Which component an event goes to: of those in whose memory the object lies which the event names, the innermost that
-/// handles such events. Components are not owned.
+/// handles such events. To a component's memory belongs what its outlying_controls() says, if it has that: the first
+/// address and the size of memory that it keeps elsewhere. Components are not owned.
 class VTUI_EXPORT Routes
 {
   public:
@@ -33,15 +34,18 @@ class VTUI_EXPORT Routes
     void add(Component& component)
     {
         check<Component>();
-        add({std::addressof(component), std::addressof(component), sizeof component, true,
-             handled<Component>(every_event), &hand_over<Component>});
+        add_memory(component, std::addressof(component), sizeof component, true);
+        if constexpr (Has_outlying_controls<Component>::value) {
+            const auto [begin, size] = component.outlying_controls();
+            add_memory(component, begin, size, false);
+        }
     }
     /// Leads an object that the component keeps elsewhere to it, too.
     template <class Component>
     void add(Component& component, const VT_obj& object)
     {
         add(component);
-        add({std::addressof(component), &object, 1, false, handled<Component>(every_event), &hand_over<Component>});
+        add_memory(component, &object, 1, false);
     }
     /// False if it was not added as one of that type.
     template <class Component>
@@ -78,7 +82,7 @@ class VTUI_EXPORT Routes
         void* component; ///< null: removed
         const void* begin;
         std::size_t size;
-        bool whole;           ///< the component itself, not a control elsewhere
+        bool whole;           ///< the component itself, not controls elsewhere
         std::uint32_t events; ///< handled ones, a bit each
         Hand_over hand_over;
         std::uint32_t outer{nobody}; ///< the route whose memory contains this one's
@@ -117,6 +121,14 @@ class VTUI_EXPORT Routes
         : std::bool_constant<handles_all<Component>(typename Component::Handled_events())>
     {};
 
+    template <class Component, class = void>
+    struct Has_outlying_controls : std::false_type
+    {};
+    template <class Component>
+    struct Has_outlying_controls<Component, std::void_t<decltype(std::declval<const Component&>().outlying_controls())>>
+        : std::true_type
+    {};
+
     template <class Component>
     static constexpr void check()
     {
@@ -136,6 +148,11 @@ class VTUI_EXPORT Routes
             event);
     }
 
+    template <class Component>
+    void add_memory(Component& component, const void* begin, std::size_t size, bool whole)
+    {
+        add({std::addressof(component), begin, size, whole, handled<Component>(every_event), &hand_over<Component>});
+    }
     void add(const Route& route);
     bool remove(const void* component, Hand_over hand_over_);
 

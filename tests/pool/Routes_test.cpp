@@ -77,6 +77,42 @@ TEST(PoolRoutes, LeadToTheOneInWhoseMemoryTheObjectLies)
     EXPECT_EQ(last.take_heard(), Lines{released(last.button)});
 }
 
+TEST(PoolRoutes, LeadFromControlsInMemoryThatTheComponentKeepsElsewhere)
+{
+    struct List : Listener
+    {
+        std::pair<const void*, std::size_t> outlying_controls() const
+        {
+            return {controls.data(), controls.size() * sizeof(Control)};
+        }
+        Control own;
+        std::vector<Control> controls{3};
+    };
+    struct Page : Listener
+    {
+        List list;
+    } page;
+    std::vector<Control>& controls = page.list.controls;
+    Screen screen;
+    prepare(screen, page.list.own, controls[0], controls[1], controls[2]);
+    screen.pool.route(page);
+    release(screen.pool, controls[1]);
+    EXPECT_EQ(page.take_heard(), nothing) << "the list has not been routed";
+    screen.pool.route(page.list);
+    for (const Control& control : controls) {
+        release(screen.pool, control);
+        EXPECT_EQ(page.list.take_heard(), Lines{released(control)});
+    }
+    release(screen.pool, page.list.own);
+    EXPECT_EQ(page.list.take_heard(), Lines{released(page.list.own)});
+    Units_man units;
+    screen.pool.announce(units);
+    EXPECT_EQ(page.list.take_heard(), Lines{"units"}) << "once, although it has two pieces of memory";
+    EXPECT_TRUE(screen.pool.unroute(page.list));
+    release(screen.pool, controls[1]);
+    EXPECT_EQ(page.list.take_heard(), nothing);
+}
+
 TEST(PoolRoutes, LeadToAComponentThatIsAControlItself)
 {
     struct Own_button : VT::VT_obj
