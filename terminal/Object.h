@@ -198,6 +198,9 @@ class Object
     const std::uint8_t* record = nullptr;
 };
 
+/// The id of an object, or the null id of an empty one.
+inline Iso::Object_id id_of(Object object) { return object ? object.id() : Iso::null_id; }
+
 /// The area of an object that has a width and a height, its top left corner at the origin. A check box is a square.
 inline Area box_of(Object object)
 {

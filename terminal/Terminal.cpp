@@ -3,7 +3,6 @@
 #include "iso11783/Bytes.h"
 #include "terminal/Control.h"
 #include "terminal/Indirection.h"
-#include "terminal/Screen_layout.h"
 #include "terminal/Touch.h"
 
 #include <algorithm>
@@ -18,8 +17,6 @@ namespace {
 
 constexpr std::uint8_t low(std::uint32_t value) { return static_cast<std::uint8_t>(value); }
 constexpr std::uint8_t high(std::uint32_t value) { return static_cast<std::uint8_t>(value >> 8); }
-
-Iso::Object_id id_of(Object object) { return object ? object.id() : Iso::null_id; }
 
 Frame frame(Function function, std::initializer_list<std::uint8_t> rest)
 {
@@ -41,6 +38,8 @@ void Terminal::receive(const std::uint8_t* message, std::size_t count)
     take(message, count);
     if (entry_is_void())
         close_entry();
+    if (pressing && !pressing.is_on(*this))
+        abort();
 }
 
 void Terminal::take(const std::uint8_t* message, std::size_t count)
@@ -101,6 +100,7 @@ void Terminal::disconnect()
     upload = {};
     upload_overflow = false;
     live.clear();
+    take_press();
     set_opened({});
 }
 
@@ -123,14 +123,20 @@ void Terminal::end_of_pool()
         fault = live.load(std::move(upload), properties.memory);
     upload = {};
     upload_overflow = false;
-    const Object open_field = pool().find(opened.number);
-    const bool replaced = !fault && open_field && live.was_uploaded_last(open_field);
+    const auto replaces = [&](Iso::Object_id id) {
+        const Object object = pool().find(id);
+        return !fault && object && live.was_uploaded_last(object);
+    };
+    const bool replaces_open = replaces(opened.number);
+    const bool replaces_pressed = replaces(pressing.thing());
     if (fault && pool().empty())
         fault.code |= Pool_fault::pool_deleted;
     answer(Function::end_of_object_pool, {fault ? std::uint8_t{1} : std::uint8_t{0}, low(fault.parent),
                                           high(fault.parent), low(fault.object), high(fault.object), fault.code});
-    if (replaced)
+    if (replaces_open)
         close_entry();
+    if (replaces_pressed)
+        abort();
 }
 
 Object Terminal::active_mask() const
@@ -154,19 +160,12 @@ Frame Terminal::status(std::uint8_t working_set_address) const
                  {working_set_address, low(mask), high(mask), low(keys), high(keys), not_busy});
 }
 
-Frame Terminal::activation(Function function, Object object, Iso::Activation activation) const
-{
-    const Iso::Object_id mask = id_of(active_mask());
-    return frame(function, {static_cast<std::uint8_t>(activation), low(object.id()), high(object.id()), low(mask),
-                            high(mask), object.u8(Field::key_code)});
-}
-
 bool Terminal::use_key(Iso::Object_id id, Iso::Activation change)
 {
     const Object key = pool().find(id);
     if (!key || !key.is(Type::key))
         return false;
-    tell(activation(Function::soft_key_activation, key, change));
+    tell(activation(key, id_of(active_mask()), change));
     return true;
 }
 
@@ -175,7 +174,7 @@ bool Terminal::use_button(Iso::Object_id id, Iso::Activation change)
     const Object button = pool().find(id);
     if (!button || !button.is(Type::button) || !is_enabled(button))
         return false;
-    tell(activation(Function::button_activation, button, change));
+    tell(activation(button, id_of(active_mask()), change));
     return true;
 }
 
@@ -238,17 +237,27 @@ bool Terminal::escape(Iso::Object_id id)
     return true;
 }
 
-/// Both messages are made before the first one is sent: what the application does on it is not to be in the second.
-bool Terminal::press_and_release(Function function, Object object)
+bool Terminal::press(Position place, std::size_t first_key)
 {
-    const Frame pressed = activation(function, object, Iso::Activation::pressed);
-    const Frame released = activation(function, object, Iso::Activation::released);
-    tell(pressed);
-    tell(released);
+    return press(target_at(*this, place, first_key), Press::Finger{place, first_key});
+}
+
+bool Terminal::press(Iso::Object_id id) { return press(shows(*this, id) ? pool().find(id) : Object(), std::nullopt); }
+
+bool Terminal::press(Object thing, const std::optional<Press::Finger>& finger)
+{
+    if (pressing || opened.number != Iso::null_id || !thing || !is_usable(thing))
+        return false;
+    if (thing.is(Type::button) && thing.u8(Field::options) & button_option::latchable)
+        return latch(thing);
+    pressing = Press(*this, thing, finger);
+    ++n_operations;
+    if (pressing.is_told())
+        tell(pressing.message(Iso::Activation::pressed)); // upon which the application may end the press
     return true;
 }
 
-/// A latchable button changes over with each touch, and says only what it is now: pressed or released.
+/// A latchable button changes over with each press, and says only what it is now: pressed or released.
 bool Terminal::latch(Object button)
 {
     const std::uint8_t options = button.u8(Field::options);
@@ -257,41 +266,58 @@ bool Terminal::latch(Object button)
     return use_button(button.id(), was_latched ? Iso::Activation::released : Iso::Activation::pressed);
 }
 
-bool Terminal::touch(Position place, std::size_t first_key)
+bool Terminal::hold()
 {
-    if (opened.number != Iso::null_id)
+    if (!pressing.is_told())
         return false;
-    const Screen_layout layout(properties);
-    if (layout.mask().contains(place))
-        return touch_control(control_at(pool(), active_mask(), place));
-    const Object key_mask = active_soft_key_mask();
-    const std::size_t n_keys = key_mask ? key_mask.items().size() : 0;
-    for (int cell = 0; cell < layout.n_cells(); ++cell) {
-        const std::size_t number = first_key + static_cast<std::size_t>(cell);
-        if (number >= n_keys || !layout.cell(cell).contains(place))
-            continue;
-        const Object key = shown(pool(), pool().find(key_mask.items()[number].id));
-        return key && key.is(Type::key) && press_and_release(Function::soft_key_activation, key);
-    }
-    return false;
+    tell(pressing.message(Iso::Activation::held));
+    return true;
 }
 
-bool Terminal::touch_control(Object control)
+bool Terminal::release()
 {
-    if (!control || !is_enabled(control))
+    const Press ended = take_press();
+    if (!ended)
         return false;
-    switch (control.type()) {
-    case Type::button:
-        return control.u8(Field::options) & button_option::latchable
-                   ? latch(control)
-                   : press_and_release(Function::button_activation, control);
-    case Type::input_boolean:
-        return enter_number(control.id(), number_value(pool(), control) == 0);
-    case Type::input_number:
-        return select_input(control.id(), true, true);
-    default:
+    const Object input = pool().find(ended.thing());
+    if (ended.is_told())
+        tell(ended.message(Iso::Activation::released));
+    else if (input && input.is(Type::input_number))
+        select_input(input.id(), true, true);
+    else if (input)
+        enter_number(input.id(), number_value(pool(), input) == 0);
+    return true;
+}
+
+bool Terminal::move(Position place)
+{
+    if (!pressing)
         return false;
-    }
+    pressing.move_to(place);
+    return !pressing.is_on(*this) && abort();
+}
+
+bool Terminal::abort()
+{
+    const Press ended = take_press();
+    if (ended.is_told())
+        tell(ended.message(Iso::Activation::aborted));
+    return static_cast<bool>(ended);
+}
+
+/// Nothing is pressed any longer, before the application is told, which may do anything then.
+Press Terminal::take_press()
+{
+    n_operations += static_cast<bool>(pressing);
+    return std::exchange(pressing, {});
+}
+
+bool Terminal::touch(Position place, std::size_t first_key)
+{
+    if (!press(place, first_key))
+        return false;
+    release();
+    return true;
 }
 
 std::optional<Number_entry> Terminal::entry() const
@@ -324,7 +350,7 @@ bool Terminal::cancel()
 
 void Terminal::set_opened(const Opened& now)
 {
-    n_openings += now.number != opened.number;
+    n_operations += now.number != opened.number;
     opened = now;
 }
 

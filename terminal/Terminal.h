@@ -7,6 +7,7 @@
 #include "terminal/Hardware.h"
 #include "terminal/Live_pool.h"
 #include "terminal/Number_entry.h"
+#include "terminal/Press.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -22,7 +23,13 @@ namespace terminal {
 /// its pool, answers, takes the operator's finger and entries, and tells what the operator does. Answers and events go
 /// to `send`, complete messages of eight bytes or, for a text, more.
 ///
-/// One input number at a time is open for entry: selected and open for input, by touch() or select_input(). It closes
+/// One thing at a time is pressed, by press(), until release(), abort() or a move() that leaves it. The press ends by
+/// itself, aborted, when the application disables or replaces what is pressed, hides it or what it lies in, moves it
+/// away from under the finger or something over it, or shows another mask; a soft key's also with another soft key
+/// mask. When the application goes away, it is forgotten. All messages of one press name the mask and the key code that
+/// it began with.
+///
+/// One input number at a time is open for entry: selected and open for input, by release() or select_input(). It closes
 /// by enter(), cancel() and escape(), when it is selected otherwise, and by itself when the application replaces or
 /// disables it, has it shown in other units, shows another mask or goes away. Whatever closes it but escape(), an
 /// application that still has that input is told that it is no longer selected.
@@ -44,8 +51,9 @@ class Terminal
     const Hardware& hardware() const { return properties; }
     /// The live pool; empty while there is none.
     const Object_pool& pool() const { return live.objects(); }
-    /// Changes whenever anything in the pool does, and the screen may look different, or a number opens or closes.
-    std::uint32_t revision() const { return live.revision() + n_openings; }
+    /// Changes whenever anything in the pool does, and the screen may look different, a press begins or ends, or a
+    /// number opens or closes.
+    std::uint32_t revision() const { return live.revision() + n_operations; }
     Object working_set() const { return live.working_set(); }
     /// What the screen shows: a data or alarm mask, and its soft key mask. Empty while there is no pool; a mask without
     /// soft keys has an empty soft key mask.
@@ -65,11 +73,31 @@ class Terminal
     bool enter_text(Iso::Object_id input, std::string_view text);
     bool escape(Iso::Object_id input);
 
-    /// The operator touches the screen with a finger and lifts it: the pixel `place` of Screen_layout, with the soft
-    /// keys from `first_key` on in the cells. A soft key or an enabled button is pressed and released, a latchable
-    /// button changes over (pressed or released), an enabled check box changes over, an enabled input number opens for
-    /// entry. False, and nothing happens, anywhere else, on strings and lists, and while a number is open, because its
-    /// entry covers the screen. control_at() says what lies where.
+    /// A finger lands on the screen: on the pixel `place` of Screen_layout, with the soft keys from `first_key` on in
+    /// the cells. target_at() says what it means there. False, and nothing happens, where that is nothing usable, while
+    /// something is pressed already, and while a number is open, because its entry covers the screen.
+    ///
+    /// A soft key or an enabled button tells the application of the press and its end. But a latchable button changes
+    /// over at once, pressed or released, and that is all: it does not stay pressed. An enabled check box or input
+    /// number does nothing yet.
+    bool press(Position place, std::size_t first_key = 0);
+    /// The same by the keyboard, on a soft key or control that is shown somewhere: see shows().
+    bool press(Iso::Object_id target);
+    /// What is pressed, or the null id.
+    Iso::Object_id pressed() const { return pressing.thing(); }
+
+    // What becomes of the press; false, and nothing happens, if there is none.
+    /// The owner of the clock says, about every 200 ms, that it lasts; false also for an input, which tells nothing.
+    bool hold();
+    /// The press ends: a check box changes over, an input number opens for entry.
+    bool release();
+    /// The finger is at that pixel now, on the screen or not. If it no longer means what is pressed, that is abort(),
+    /// and true; to come back does not press again. A press by the keyboard is not concerned.
+    bool move(Position place);
+    /// The press ends without effect: a soft key or button is told to be aborted.
+    bool abort();
+
+    /// A tap: press() and, if that was something, release().
     bool touch(Position place, std::size_t first_key = 0);
 
     /// The input number that is open for entry, or the null id.
@@ -95,11 +123,10 @@ class Terminal
     void answer(Iso::Function function, std::initializer_list<std::uint8_t> rest);
     void transfer(const std::uint8_t* records, std::size_t count);
     void end_of_pool();
-    Frame activation(Iso::Function function, Object object, Iso::Activation activation) const;
     void tell(const Frame& message) { send(message.data(), message.size()); }
-    bool press_and_release(Iso::Function function, Object object);
+    bool press(Object thing, const std::optional<Press::Finger>& finger);
     bool latch(Object button);
-    bool touch_control(Object control);
+    Press take_press();
     void set_opened(const Opened& now);
     void close_entry();
     bool entry_is_void() const; ///< the number that is open is no longer to be entered
@@ -107,8 +134,9 @@ class Terminal
     Hardware properties;
     Send send;
     Live_pool live;
+    Press pressing;
     Opened opened;
-    std::uint32_t n_openings = 0;     ///< and closings
+    std::uint32_t n_operations = 0;   ///< beginnings and ends of presses and entries
     std::vector<std::uint8_t> upload; ///< transferred, not ended yet
     bool upload_overflow = false;     ///< more was transferred than there is memory for
 };

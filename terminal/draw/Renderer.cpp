@@ -39,6 +39,7 @@ constexpr unsigned transparent = 1;
 }
 
 constexpr int button_border = 4;
+constexpr int pressed_key_edge = 2;
 
 Picture picture_of(Object object)
 {
@@ -54,6 +55,15 @@ Picture picture_of(Object object)
     if (options & picture_option::transparent)
         picture.transparent = object.u8(Field::transparency_colour);
     return picture;
+}
+
+/// Lit from the top left or, of what is pressed or latched down, from the bottom right.
+void draw_edges(const View& view, const Area& box, bool down, int width)
+{
+    const Pen top_left{{down ? grey : white}, width};
+    const Pen bottom_right{{down ? white : grey}, width};
+    draw_rectangle(view, box.right, box.bottom, top_side | left_side, bottom_right, nullptr);
+    draw_rectangle(view, box.right, box.bottom, bottom_side | right_side, top_left, nullptr);
 }
 
 QVector<QRgb> make_palette()
@@ -72,6 +82,7 @@ QImage Renderer::draw(const Terminal& terminal, std::size_t first_key)
 {
     const Screen_layout layout(terminal.hardware());
     start(terminal.pool(), layout.screen().right, layout.screen().bottom);
+    pressed = terminal.pressed();
     const View screen = canvas.view();
     screen.fill(canvas.area(), black);
     const Object mask = terminal.active_mask();
@@ -123,6 +134,7 @@ void Renderer::start(const Object_pool& objects, int width, int height)
 QImage Renderer::finish()
 {
     pool = nullptr;
+    pressed = Iso::null_id;
     static const QVector<QRgb> palette = make_palette();
     QImage result(canvas.width(), canvas.height(), QImage::Format_Indexed8);
     result.setColorTable(palette);
@@ -147,6 +159,8 @@ void Renderer::paint_key(const View& view, Object key, std::uint8_t mask_backgro
     }
     view.fill(view.visible(), key.u8(Field::background));
     paint_children(view, key.children());
+    if (key.id() == pressed)
+        draw_edges(view, view.visible(), true, pressed_key_edge);
 }
 
 void Renderer::paint_children(const View& view, const List<Child>& children)
@@ -208,8 +222,7 @@ void Renderer::paint_container(const View& view, Object container)
         paint_children(view.inside(box_of(container)), container.children());
 }
 
-/// The border is of the border colour, its outer edge lit from the top left, or from the bottom right while latched
-/// down.
+/// The border is of the border colour, with edges.
 void Renderer::paint_button(const View& view, Object button)
 {
     const unsigned options = button.u8(Field::options);
@@ -218,13 +231,9 @@ void Renderer::paint_button(const View& view, Object button)
     if (!(options & button_option::no_border)) {
         face = {button_border, button_border, box.right - button_border, box.bottom - button_border};
         if (!(options & button_option::suppress_border)) {
-            const bool down = options & button_option::latched;
             const Pen border{{button.u8(Field::border_colour)}, button_border};
-            const Pen dark{{down ? white : grey}, 1};
-            const Pen light{{down ? grey : white}, 1};
             draw_rectangle(view, box.right, box.bottom, 0, border, nullptr);
-            draw_rectangle(view, box.right, box.bottom, top_side | left_side, dark, nullptr);
-            draw_rectangle(view, box.right, box.bottom, bottom_side | right_side, light, nullptr);
+            draw_edges(view, box, options & button_option::latched || button.id() == pressed, 1);
         }
     }
     const View inner = view.inside(box).inside(face);

@@ -29,6 +29,7 @@ class Renderer
     explicit Renderer(const std::string& font_folder = Glyphs::default_folder());
 
     /// The screen as Screen_layout lays it out. `first_key` is the number of the key in the first cell, for paging.
+    /// What is pressed looks so: a button as if it were latched, a soft key by edges of two pixels around its cell.
     /// Without a pool all is black.
     QImage draw(const Terminal& terminal, std::size_t first_key = 0);
 
@@ -71,8 +72,9 @@ class Renderer
     Pen pen_of(Object shape) const;
     const Paint* fill_of(const View& view, Object shape, Paint& paint);
 
-    const Object_pool* pool = nullptr; ///< only while drawing
-    int depth = 0;                     ///< of nested objects
+    const Object_pool* pool = nullptr;     ///< only while drawing
+    Iso::Object_id pressed = Iso::null_id; ///< only while drawing
+    int depth = 0;                         ///< of nested objects
     Glyphs glyphs;
     Canvas canvas;
     Canvas pattern; ///< what fills a shape, where it is a pattern

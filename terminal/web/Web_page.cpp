@@ -1,5 +1,6 @@
 #include "terminal/web/Web_page.h"
 
+#include "terminal/Touch.h"
 #include "terminal/web/Page_html.h"
 
 #include <QBuffer>
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <exception>
 #include <future>
 #include <stdexcept>
@@ -27,6 +29,24 @@ using httplib::Response;
 
 constexpr const char* address = "127.0.0.1";
 constexpr const char* plain_text = "text/plain; charset=utf-8";
+constexpr const char* json = "application/json";
+
+using Clock = std::chrono::steady_clock;
+constexpr std::chrono::seconds longest_silence{1}; ///< of a browser in which something is pressed
+constexpr std::chrono::milliseconds idle_interval{100};
+
+/// Threads for requests; the one that waits for these does something else in its spare time.
+class Threads final : public httplib::ThreadPool
+{
+  public:
+    explicit Threads(std::function<void()> in_spare_time)
+        : ThreadPool(CPPHTTPLIB_THREAD_POOL_COUNT), idle(std::move(in_spare_time))
+    {}
+    void on_idle() override { idle(); }
+
+  private:
+    const std::function<void()> idle;
+};
 
 std::string escaped(const std::string& text) { return QString::fromStdString(text).toHtmlEscaped().toStdString(); }
 
@@ -42,10 +62,32 @@ std::string png(const QImage& image)
 /// Of at most five digits.
 int number(const std::string& digits) { return std::stoi(digits); }
 
+Position place(const Request& request) { return {number(request.matches[1]), number(request.matches[2])}; }
+
+const char* kind(Object target)
+{
+    switch (target.type()) {
+    case Iso::Object_type::key:
+        return "soft key";
+    case Iso::Object_type::button:
+        return "button";
+    case Iso::Object_type::input_boolean:
+        return "check box";
+    default:
+        return "number";
+    }
+}
+
 void refuse(Response& response, int status, const std::string& reason)
 {
     response.status = status;
     response.set_content(reason, plain_text);
+}
+
+void answer(Response& response, bool yes)
+{
+    response.status = 200;
+    response.set_content(yes ? "true" : "false", json);
 }
 
 void explain(const Request&, Response& response, std::exception_ptr problem)
@@ -76,6 +118,9 @@ Web_page::~Web_page()
 {
     server->stop();
     listener.join();
+    const auto locked = lock();
+    if (heard)
+        terminal.abort();
 }
 
 void Web_page::add_routes()
@@ -92,8 +137,8 @@ void Web_page::add_routes()
         const auto locked = lock();
         response.set_content(choice.shown(), plain_text);
     });
-    server->Get("/entry",
-                [this](const Request&, Response& response) { response.set_content(entry(), "application/json"); });
+    server->Get("/entry", [this](const Request&, Response& response) { response.set_content(entry(), json); });
+    server->Get("/controls", [this](const Request&, Response& response) { response.set_content(controls(), json); });
 
     // None of the requests has a body, and they may say nothing of a length: there is none to be waited for.
     const auto post = [this](const char* path, auto act) {
@@ -106,17 +151,30 @@ void Web_page::add_routes()
         if (!show(request.matches[1]))
             response.status = 404;
     });
-    post("/touch/(\\d{1,5})/(\\d{1,5})", [this](const Request& request, Response&) {
-        touch({number(request.matches[1]), number(request.matches[2])});
+    post("/press/(\\d{1,5})/(\\d{1,5})", [this](const Request& request, Response& response) {
+        press(response, [&] { return terminal.press(place(request)); });
     });
+    post("/press/(\\d{1,5})", [this](const Request& request, Response& response) {
+        const int id = number(request.matches[1]);
+        press(response, [&] { return id < Iso::null_id && terminal.press(static_cast<Iso::Object_id>(id)); });
+    });
+    post("/move/(\\d{1,5})/(\\d{1,5})", [this](const Request& request, Response& response) {
+        operate(response, [&] { return terminal.move(place(request)); });
+    });
+    post("/hold", [this](const Request&, Response& response) { operate(response, [&] { return terminal.hold(); }); });
+    post("/release",
+         [this](const Request&, Response& response) { operate(response, [&] { return terminal.release(); }); });
+    post("/abort", [this](const Request&, Response& response) { operate(response, [&] { return terminal.abort(); }); });
     post("/entry/(\\d{1,5})", [this](const Request& request, Response& response) {
         enter(number(request.matches[1]), request.get_param_value("text"), response);
     });
     post("/escape/(\\d{1,5})",
          [this](const Request& request, Response& response) { escape(number(request.matches[1]), response); });
     server->set_pre_routing_handler([this](const Request& request, Response& response) {
-        if (request.method != "POST" || is_own(request))
+        if (request.method != "POST" || is_own(request)) {
+            end_lost_press();
             return httplib::Server::HandlerResponse::Unhandled;
+        }
         refuse(response, 403, "this is for the terminal's own page only");
         return httplib::Server::HandlerResponse::Handled;
     });
@@ -136,6 +194,7 @@ void Web_page::listen(std::uint16_t port)
     server->set_keep_alive_timeout(1);
     server->set_read_timeout(1);
     server->set_payload_max_length(1024);
+    server->set_idle_interval(idle_interval);
 
     const int bound = port == 0 ? server->bind_to_any_port(address) : server->bind_to_port(address, port) ? port : -1;
     if (bound < 0)
@@ -145,9 +204,15 @@ void Web_page::listen(std::uint16_t port)
 
     // The server asks for its threads when it has begun to run; a stop() before that would be lost.
     const auto running = std::make_shared<std::promise<void>>();
-    server->new_task_queue = [running] {
+    server->new_task_queue = [this, running] {
         running->set_value();
-        return new httplib::ThreadPool(CPPHTTPLIB_THREAD_POOL_COUNT);
+        return new Threads([this] {
+            try {
+                end_lost_press();
+            } catch (...) {
+                // There is nobody left to whom it could be shown.
+            }
+        });
     };
     listener = std::thread([this] { server->listen_after_bind(); });
     running->get_future().wait();
@@ -199,6 +264,25 @@ std::string Web_page::entry()
            "\",\"decimals\":" + std::to_string(open->decimals()) + "}";
 }
 
+std::string Web_page::controls()
+{
+    const auto locked = lock();
+    std::string list;
+    for (const Target& target : usable_targets(terminal)) {
+        const auto add = [&list](const char* name, int value) {
+            list += std::string(",\"") + name + "\":" + std::to_string(value);
+        };
+        list += std::string(list.empty() ? "" : ",") + "{\"kind\":\"" + kind(target.object) + '"';
+        add("id", target.object.id());
+        add("left", target.area.left);
+        add("top", target.area.top);
+        add("width", target.area.width());
+        add("height", target.area.height());
+        list += '}';
+    }
+    return '[' + list + ']';
+}
+
 bool Web_page::show(const std::string& name)
 {
     const auto found = std::find(choice.names.begin(), choice.names.end(), name);
@@ -209,10 +293,39 @@ bool Web_page::show(const std::string& name)
     return true;
 }
 
-void Web_page::touch(Position place)
+void Web_page::press(Response& response, const std::function<bool()>& begin)
 {
     const auto locked = lock();
-    if (terminal.touch(place))
+    if (begin())
+        return follow_press(response, true);
+    // Perhaps something else is pressed, in another browser; that is not for this one to hold and release.
+    answer(response, false);
+}
+
+void Web_page::operate(Response& response, const std::function<bool()>& act)
+{
+    const auto locked = lock();
+    follow_press(response, act());
+}
+
+void Web_page::follow_press(Response& response, bool something_done)
+{
+    heard = Clock::now();
+    if (something_done)
+        tell_application();
+    const bool goes_on = terminal.pressed() != Iso::null_id;
+    if (!goes_on)
+        heard.reset();
+    answer(response, goes_on);
+}
+
+void Web_page::end_lost_press()
+{
+    const auto locked = lock();
+    if (!heard || Clock::now() - *heard < longest_silence)
+        return;
+    heard.reset();
+    if (terminal.abort())
         tell_application();
 }
 

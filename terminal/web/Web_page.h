@@ -4,11 +4,13 @@
 #include "terminal/Terminal.h"
 #include "terminal/draw/Renderer.h"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -30,21 +32,34 @@ struct Screen_choice
 };
 
 /// Shows a terminal in web browsers on this machine, from construction to destruction: its screen, kept up to date, and
-/// the choice of screens; and takes the viewer for its operator, whose clicks and taps are touches, and who enters
-/// numbers in a dialog. The address is http://127.0.0.1:port()/.
+/// the choice of screens; and takes the viewer for its operator, who presses, holds and releases what the screen shows
+/// by mouse, finger or keyboard, and enters numbers in a dialog. The address is http://127.0.0.1:port()/.
 ///
 /// Terminal and renderer stay the caller's and outlive the page. The page uses them from threads of its own, one at a
 /// time and only while it is locked; so between construction and destruction of the page everybody else, too, touches
 /// them only while holding lock(). What is drawn belongs to the thread that asked for it.
 ///
-///     GET  /                     the page itself, which needs nothing else from anywhere
-///     GET  /screen.png           what the terminal shows
-///     GET  /revision             a number that changes with the screen and the entry
-///     GET  /page                 the name of the screen that is shown
-///     GET  /entry                the number that is open for entry, as JSON: null, or its id and what Number_entry
-///     says POST /page/<name>          shows that screen; 404 if there is none of that name POST /touch/<x>/<y> touches
-///     that pixel of the screen POST /entry/<id>?text=<…>  enters that number; 422 and the reason if it is refused, 409
-///     if it is not open POST /escape/<id>          leaves that number without entering one; 409 if it is not open
+/// | request                         | what it does                                                                   |
+/// |---------------------------------|--------------------------------------------------------------------------------|
+/// | GET  /                          | the page itself, which needs nothing else from anywhere                        |
+/// | GET  /screen.png                | what the terminal shows                                                        |
+/// | GET  /revision                  | a number that changes with the screen, what is pressed, and the entry          |
+/// | GET  /page                      | the name of the screen that is shown                                           |
+/// | GET  /controls                  | what can be used, as a JSON list: id, kind, left, top, width, height           |
+/// | GET  /entry                     | the number open for entry, as JSON: null, or its id and what Number_entry says |
+/// | POST /page/<name>               | shows that screen; 404 if there is none of that name                           |
+/// | POST /press/<x>/<y>             | a finger lands on that pixel of the screen                                     |
+/// | POST /press/<id>                | a key of the keyboard goes down on that control or soft key                    |
+/// | POST /move/<x>/<y>              | the finger is there now                                                        |
+/// | POST /hold                      | it is still there, or the key still down                                       |
+/// | POST /release                   | it goes up                                                                     |
+/// | POST /abort                     | it is taken back                                                               |
+/// | POST /entry/<id>?text=<number>  | enters that number; 422 and the reason if it is refused, 409 if it is not open |
+/// | POST /escape/<id>               | leaves that number without entering one; 409 if it is not open                 |
+///
+/// The requests of a press answer, as JSON, whether that press goes on. It is the browser that has the clock: it says
+/// /hold every 200 ms. A browser that has said nothing of its press for a second is lost, and the press is aborted; the
+/// server looks for that in its spare time, and before each request.
 ///
 /// A POST is refused with 403 if it says that it comes from another site's page, or was meant for another host: what
 /// else is open in the browser does not press keys.
@@ -53,11 +68,13 @@ class Web_page
   public:
     /// Port 0 takes any free one. Throws std::system_error, naming the address, if it cannot be listened on.
     ///
-    /// `operated`, unless it is empty, is called with the Web_page locked when the operator has done something that the
-    /// terminal told the application; what it throws is shown to the viewer.
+    /// `operated`, unless it is empty, is called with the Web_page locked when the operator has done something, of
+    /// which the terminal may have told the application; what it throws is shown to the viewer, unless that one is
+    /// lost.
     Web_page(Terminal& terminal, Renderer& renderer, Screen_choice choice, std::function<void()> operated,
              std::uint16_t port);
-    /// Lets requests that have begun finish; a client that falls silent holds it up for two seconds at most.
+    /// Lets requests that have begun finish; a client that falls silent holds it up for two seconds at most. What is
+    /// pressed then is aborted.
     ~Web_page();
     Web_page(const Web_page&) = delete;
     Web_page& operator=(const Web_page&) = delete;
@@ -74,8 +91,12 @@ class Web_page
     std::string html() const;
     std::string picture();
     std::string entry();
+    std::string controls();
     bool show(const std::string& name);
-    void touch(Position place);
+    void press(httplib::Response& response, const std::function<bool()>& begin);
+    void operate(httplib::Response& response, const std::function<bool()>& act);
+    void follow_press(httplib::Response& response, bool something_done);
+    void end_lost_press();
     void enter(int id, const std::string& text, httplib::Response& response);
     void escape(int id, httplib::Response& response);
     bool is_open(int id, httplib::Response& response) const;
@@ -85,7 +106,9 @@ class Web_page
     Renderer& renderer;
     const Screen_choice choice;
     const std::function<void()> operated;
-    std::mutex mutex; ///< of terminal, renderer, `operated` and the functions of `choice`
+    std::mutex mutex; ///< of terminal, renderer, `operated`, the functions of `choice`, and `heard`
+    /// When a browser last said something of what it presses; nothing if it presses nothing.
+    std::optional<std::chrono::steady_clock::time_point> heard;
 
     std::uint16_t listening_port = 0;
     std::unique_ptr<httplib::Server> server;

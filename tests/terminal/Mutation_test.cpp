@@ -243,3 +243,81 @@ TEST(Mutation, OfEveryKindOfMessageEndsWell)
     session.terminal.disconnect();
     EXPECT_EQ(session.load(complete_pool()), accepted);
 }
+
+TEST(Mutation, OfCommandsLeavesEveryPressWholeAndOfOneKind)
+{
+    constexpr std::uint8_t functions[] = {0xA0, 0xA1, 0xA5, 0xA6, 0xA7, 0xA8, 0xAD, 0xAE, 0xAF, 0xB4};
+    enum Change : std::uint8_t { released, pressed, held, aborted };
+    Session session;
+    Random random(5);
+    Bytes open; // the message with which the press that goes on began
+    int presses = 0, ended_by_command = 0;
+    const auto follow = [&] {
+        for (Bytes& told : session.sent) {
+            if (told[0] > 1) // no activation
+                continue;
+            const std::uint8_t change = told[1];
+            const bool latch = (told[0] == 1 && open.empty() && change == released) ||
+                               (change == pressed && session.terminal.pressed() == null_id && session.sent.size() == 1);
+            if (latch)
+                continue;
+            ASSERT_EQ(change == pressed, open.empty());
+            told[1] = pressed;
+            if (change == pressed)
+                open = told;
+            ASSERT_EQ(told, open) << "all messages name the same";
+            if (change == released || change == aborted)
+                open.clear();
+        }
+        const terminal::Object thing = session.terminal.pool().find(session.terminal.pressed());
+        ASSERT_EQ(static_cast<bool>(thing), session.terminal.pressed() != null_id);
+        ASSERT_EQ(!open.empty(), thing && (thing.is(Type::key) || thing.is(Type::button)));
+        session.sent.clear();
+    };
+    const auto place = [&] {
+        return terminal::Position{static_cast<int>(random.below(550)) - 5, static_cast<int>(random.below(490)) - 5};
+    };
+    for (int round = 0; round < 100000; ++round) {
+        terminal::Terminal& terminal = session.terminal;
+        if (round % 20 == 0) {
+            terminal.disconnect();
+            open.clear();
+            ASSERT_EQ(session.load(complete_pool()), accepted);
+            session.sent.clear();
+        }
+        switch (random.below(8)) {
+        case 0:
+        case 1:
+            presses += random.below(2) ? terminal.press(place())
+                                       : terminal.press(static_cast<std::uint16_t>(random.below(18)));
+            break;
+        case 2:
+            terminal.release();
+            break;
+        case 3:
+            terminal.move(place());
+            break;
+        case 4:
+            random.below(4) ? terminal.hold() : terminal.abort();
+            break;
+        default:
+            Bytes command =
+                message(functions[random.below(sizeof functions)], w(static_cast<std::uint16_t>(random.below(20))));
+            for (std::size_t i = 3; i < command.size(); ++i)
+                command[i] = interesting(random);
+            if (random.below(2)) // disable or enable a control, show another mask
+                command = random.below(2)
+                              ? message(0xA1, w(container + static_cast<int>(random.below(6))),
+                                        static_cast<int>(random.below(2)))
+                              : message(0xAD, w(working_set), w(data_mask + static_cast<int>(random.below(2))));
+            const bool was_pressed = terminal.pressed() != null_id;
+            terminal.receive(command.data(), command.size());
+            ended_by_command += was_pressed && terminal.pressed() == null_id;
+            break;
+        }
+        terminal.cancel();
+        ASSERT_NO_FATAL_FAILURE(follow()) << "round " << round;
+    }
+    EXPECT_GT(presses, 2000);
+    EXPECT_GT(ended_by_command, 400);
+}

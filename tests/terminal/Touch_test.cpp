@@ -1,8 +1,7 @@
-#include "Session.h"
+#include "Touch_fixture.h"
 
 #include "terminal/Nesting.h"
 #include "terminal/Screen_layout.h"
-#include "tests/terminal/draw/Pool_builder.h"
 
 #include <chrono>
 
@@ -11,12 +10,7 @@ namespace {
 using terminal::Area;
 using terminal::Hardware;
 using terminal::Screen_layout;
-using Id = Pool_builder::Id;
-using Messages = std::vector<Bytes>;
-
-constexpr Id none = Pool_builder::none;
-constexpr int disabled = 16; ///< among the options of a button
-constexpr Pool_builder::Field field{20, 10, none};
+using Touch = Touch_fixture;
 
 Hardware with_mask(std::uint16_t size)
 {
@@ -32,55 +26,6 @@ void expect_area(const Area& area, const Area& expected)
     EXPECT_EQ(area.right, expected.right);
     EXPECT_EQ(area.bottom, expected.bottom);
 }
-
-/// Adds objects, loads them behind a mask, and touches.
-class Touch : public testing::Test
-{
-  protected:
-    void load(const Pool_builder::Places& places, Id soft_keys = none)
-    {
-        mask = builder.mask(0, places, soft_keys);
-        builder.working_set(mask);
-        ASSERT_EQ(session.load(builder.bytes()), accepted);
-    }
-
-    /// What the application is told of a touch.
-    Messages touch(int x, int y, std::size_t first_key = 0)
-    {
-        session.sent.clear();
-        const bool done = session.terminal.touch({x, y}, first_key);
-        EXPECT_EQ(done, !session.sent.empty());
-        return session.sent;
-    }
-
-    Messages key(Id id) { return {message(0x00, 1, w(id), w(mask), 1), message(0x00, 0, w(id), w(mask), 1)}; }
-    Messages button(Id id) { return {message(0x01, 1, w(id), w(mask), 1), message(0x01, 0, w(id), w(mask), 1)}; }
-    /// The number that a touch opens, which is closed again so that further touches are taken.
-    Id opened_by(int x, int y)
-    {
-        const Messages told = touch(x, y);
-        const Id id = session.terminal.open_number();
-        EXPECT_EQ(told, Messages{message(0x03, w(id), 1, 1)});
-        session.terminal.cancel();
-        return id;
-    }
-
-    Id add_button(int width = 20, int height = 10, int options = 0)
-    {
-        return builder.button(width, height, 1, 2, options);
-    }
-    Id add_number(bool enabled = true)
-    {
-        Pool_builder::Number number;
-        number.enabled = enabled;
-        return builder.input_number(field, number);
-    }
-
-    const Messages nothing;
-    Pool_builder builder;
-    Session session;
-    Id mask = none;
-};
 
 } // namespace
 
@@ -273,7 +218,6 @@ TEST_F(Touch, IsTakenByADisabledButtonAndLetThroughByADisabledInput)
 
 TEST_F(Touch, LatchesALatchableButtonAndUnlatchesItAgain)
 {
-    constexpr int latchable = 1, latched = 2;
     const Id lamp = builder.button(20, 20, 0, 0, latchable);
     const Id fan = builder.button(20, 20, 0, 0, latchable | latched);
     const Id broken = builder.button(20, 20, 0, 0, latchable | disabled);
@@ -331,27 +275,6 @@ TEST_F(Touch, NamesTheAlarmMaskThatIsShown)
     session.ask(message(0xAD, w(session.terminal.working_set().id()), w(mask)));
     EXPECT_EQ(touch(3, 3), button(pressed));
     EXPECT_EQ(touch(480, 0), key(soft_key));
-}
-
-TEST_F(Touch, ReleasesWhatItPressedWhateverTheApplicationDoesBetween)
-{
-    const Id id = add_button();
-    load({{id}});
-    std::vector<Bytes> sent;
-    terminal::Terminal* self = nullptr;
-    terminal::Terminal quick({}, [&](const std::uint8_t* bytes, std::size_t count) {
-        sent.emplace_back(bytes, bytes + count);
-        if (bytes[0] == 0x01)
-            self->disconnect();
-    });
-    self = &quick;
-    const Bytes transfer = join(0x11, builder.bytes());
-    quick.receive(transfer.data(), transfer.size());
-    const Bytes end = message(0x12);
-    quick.receive(end.data(), end.size());
-    sent.clear();
-    EXPECT_TRUE(quick.touch({0, 0}));
-    EXPECT_EQ(sent, button(id));
 }
 
 TEST_F(Touch, GoesAsDeepAsAPoolMayNest)

@@ -288,10 +288,82 @@ TEST_F(Drawing, PutsAButtonsChildrenOnItsFaceInsideTheBorder)
 
 TEST_F(Drawing, LooksPressedWhileLatched)
 {
-    const std::string up = mask({{builder.button(20, 20, 3, 5, 1)}}, 20);
-    const std::string down = mask({{builder.button(20, 20, 3, 5, 1 | 2)}}, 20);
-    EXPECT_EQ(up.substr(1, 2), "##");
-    EXPECT_EQ(down.substr(1, 2), "88");
+    constexpr int latchable = 1, latched = 2;
+    const std::string up = mask({{builder.button(10, 10, 3, 5, latchable)}}, 10);
+    EXPECT_EQ(up, mask({{builder.button(10, 10, 3, 5, 0)}}, 10));
+    EXPECT_EQ(mask({{builder.button(10, 10, 3, 5, latchable | latched)}}, 10), R"(
+8888888888
+855555555#
+855555555#
+855555555#
+855533555#
+855533555#
+855555555#
+855555555#
+855555555#
+8#########
+)");
+}
+
+TEST_F(Drawing, LatchesNothingButTheBorder)
+{
+    constexpr int latched = 1 | 2, suppress_border = 4, transparent = 8, no_border = 32;
+    for (const int options : {suppress_border, no_border, suppress_border | transparent}) {
+        const Id up = builder.button(12, 12, 3, 5, options, {{dot}});
+        const Id down = builder.button(12, 12, 3, 5, options | latched, {{dot}});
+        EXPECT_EQ(mask({{up}}, 12), mask({{down}}, 12)) << options;
+    }
+}
+
+TEST_F(Drawing, ShadesTheFaceOfADisabledButtonAndNotItsBorder)
+{
+    constexpr int latched = 1 | 2, transparent = 8, disabled = 16;
+    const Id wide = builder.rectangle(9, 1, line_1);
+    EXPECT_EQ(mask({{builder.button(12, 12, 3, 5, disabled, {{wide}})}}, 12), R"(
+############
+#55555555558
+#55555555558
+#55555555558
+#5558#8#5558
+#55538385558
+#55583835558
+#55538385558
+#55555555558
+#55555555558
+#55555555558
+#88888888888
+)");
+    EXPECT_EQ(mask({{builder.button(10, 10, 3, 5, disabled | latched | transparent)}}, 10), R"(
+8888888888
+855555555#
+855555555#
+855555555#
+85558.555#
+8555.8555#
+855555555#
+855555555#
+855555555#
+8#########
+)");
+}
+
+TEST_F(Drawing, ShowsTheBackgroundThroughATransparentButtonInsideItsBorder)
+{
+    constexpr int suppress_border = 4, transparent = 8;
+    const Id below = builder.rectangle(10, 10, none, fill_3);
+    EXPECT_EQ(mask({{below}, {builder.button(10, 10, 7, 5, transparent)}}, 10), R"(
+##########
+#555555558
+#555555558
+#555555558
+#555335558
+#555335558
+#555555558
+#555555558
+#555555558
+#888888888
+)");
+    EXPECT_EQ(mask({{below}, {builder.button(10, 10, 7, 5, transparent | suppress_border)}}, 10), mask({{below}}, 10));
 }
 
 TEST_F(Drawing, LeavesOutWhatAButtonsOptionsSay)

@@ -104,6 +104,62 @@ TEST_F(Screen, FollowsTheCommandsOfTheApplication)
     EXPECT_EQ(screen().substr(0, 7), "\n#88888");
 }
 
+TEST_F(Screen, ShowsAPressedButtonAsALatchedOneUntilThePressEnds)
+{
+    const Id button = builder.button(6, 6, 3, 4, 0);
+    load(builder.mask(5, {{button, 0, 0}}));
+    const std::string up = screen();
+    ASSERT_TRUE(session.terminal.press({1, 1}));
+    EXPECT_EQ(screen(), R"(
+888888....
+84444#....
+84444#....
+84444#....
+84444#....
+8#####....
+)");
+    ASSERT_TRUE(session.terminal.release());
+    EXPECT_EQ(screen(), up);
+    ASSERT_TRUE(session.terminal.press(button));
+    EXPECT_NE(screen(), up) << "by the keyboard";
+    ASSERT_TRUE(session.terminal.abort());
+    EXPECT_EQ(screen(), up);
+}
+
+TEST_F(Screen, ShowsAPressedSoftKeyByTheEdgesOfItsCell)
+{
+    Hardware larger = hardware();
+    larger.soft_key_width = 7;
+    larger.soft_key_height = 6;
+    larger.physical_soft_keys = 2;
+    Session other(larger);
+    const Id key = builder.key(2, {{wide, 0, 0}});
+    const Id second = builder.key(3, {});
+    builder.working_set(builder.mask(5, {}, builder.soft_key_mask(6, {builder.pointer(key), second})));
+    ASSERT_EQ(other.load(builder.bytes()), accepted);
+    const auto screen = [&] { return ascii(renderer.draw(other.terminal)); };
+    const std::string up = screen();
+    ASSERT_TRUE(other.terminal.press({6, 0}));
+    EXPECT_EQ(screen(), R"(
+55555588888883333333
+55555588888883333333
+55555588777##3333333
+55555588777##3333333
+55555588#####3333333
+55555588#####3333333
+)");
+    ASSERT_TRUE(other.terminal.release());
+    EXPECT_EQ(screen(), up);
+    ASSERT_TRUE(other.terminal.press(second));
+    EXPECT_NE(screen(), up) << "by the keyboard";
+    ASSERT_TRUE(other.terminal.abort());
+    EXPECT_EQ(screen(), up);
+    ASSERT_TRUE(other.terminal.press({6, 0}));
+    EXPECT_NE(screen(), up);
+    EXPECT_EQ(ascii(renderer.draw_key(other.terminal.pool(), other.terminal.pool().find(key), 3, 2)), "\n777\n777\n")
+        << "by itself it is not pressed";
+}
+
 TEST(RichScreen, LooksAsItDid)
 {
     Pool_builder builder;

@@ -116,7 +116,7 @@ TEST_F(WebPage, TellsTheViewerWhyAScreenCannotBeShown)
 
 TEST_F(WebPage, IsNeverTakenFromACache)
 {
-    for (const char* path : {"/", "/screen.png", "/revision", "/page", "/entry"}) {
+    for (const char* path : {"/", "/screen.png", "/revision", "/page", "/controls", "/entry"}) {
         const auto answer = client.Get(path);
         ASSERT_EQ(status(answer), 200);
         EXPECT_EQ(answer->get_header_value("Cache-Control"), "no-store") << path;
@@ -134,10 +134,11 @@ TEST_F(WebPage, KeepsAwayFromTheTerminalWhileItIsLocked)
         locked.unlock();
         EXPECT_EQ(answer.get(), answered) << path;
     };
-    for (const char* path : {"/screen.png", "/revision", "/page", "/entry"})
+    for (const char* path : {"/screen.png", "/revision", "/page", "/controls", "/entry"})
         expect_to_wait(path, 200, [&] { return client.Get(path); });
-    for (const char* path : {"/page/Red", "/touch/0/0"})
-        expect_to_wait(path, 204, [&] { return client.Post(path); });
+    expect_to_wait("/page/Red", 204, [&] { return client.Post("/page/Red"); });
+    for (const char* path : {"/press/0/0", "/press/0", "/move/0/0", "/hold", "/release", "/abort"})
+        expect_to_wait(path, 200, [&] { return client.Post(path); });
     for (const char* path : {"/entry/1?text=1", "/escape/1"})
         expect_to_wait(path, 409, [&] { return client.Post(path); });
 }
