@@ -8,11 +8,7 @@ namespace gallery {
 using namespace VT::Comp;
 using Justification = Placement_widget::Justification;
 
-namespace {
-constexpr std::uint8_t grey = 8;
-}
-
-Elements_page::Elements_page(Connection_elements& elements, std::uint16_t side) : Page("elements", grey, elements, side)
+Elements_page::Elements_page(Page_style& page_style) : Page("elements", grey, page_style)
 {
     show_placements();
     show_backgrounds();

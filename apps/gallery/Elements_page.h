@@ -19,7 +19,7 @@ namespace gallery {
 class Elements_page final : public Page
 {
   public:
-    Elements_page(VT::Comp::Connection_elements& elements, std::uint16_t side);
+    explicit Elements_page(Page_style& page_style);
 
   private:
     struct Placed

@@ -27,8 +27,8 @@ constexpr int setting_width = 47, setting_height = 14, padding = 1;
 
 } // namespace
 
-Fields_page::Fields_page(Number_style& shared)
-    : Number_page("fields", "Sprayer", shared), speed(shown_look(), km_per_hour, nullptr),
+Fields_page::Fields_page(Page_style& page_style)
+    : Number_page("fields", "Sprayer", page_style), speed(shown_look(), km_per_hour, nullptr),
       flow(shown_look(), litres_per_minute, nullptr), pressure(shown_look(), bar, psi, nullptr),
       work_rate(shown_look(), hectares_per_hour, nullptr), worked(shown_look(), hectares, nullptr),
       rate(&style.font_2, &rate_label.variable, setting_look(), litres_per_hectare, gallons_per_acre, nullptr),
@@ -80,7 +80,11 @@ void Fields_page::place()
         mask.add(settings[i]->root(), at(right + padding), at(y + padding));
         y += row_height;
     }
-    set_stepped(rate.input, 10, right + setting_width - 8, top + 1);
+    const auto step_rate = [this](int direction) {
+        rate.input.increment(direction * 10);
+        update();
+    };
+    set_step(step_rate, right + setting_width - 8, top + 1);
 }
 
 void Fields_page::lay_out()
@@ -109,12 +113,6 @@ void Fields_page::tell_fields(Event& event)
         field->number.handle_event(event);
     for (Setting* field : settings)
         field->input.handle_event(event);
-}
-
-void Fields_page::handle_event(const VT::Soft_key_activation_event& event)
-{
-    Number_page::handle_event(event);
-    update();
 }
 
 void Fields_page::handle_event(VT::VT_change_numeric_value_event& event)

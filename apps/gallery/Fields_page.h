@@ -15,9 +15,8 @@ namespace gallery {
 class Fields_page final : public Number_page
 {
   public:
-    explicit Fields_page(Number_style& shared);
+    explicit Fields_page(Page_style& page_style);
 
-    void handle_event(const VT::Soft_key_activation_event& event);
     void handle_event(VT::VT_change_numeric_value_event& event);
     void handle_event(const VT::VT_information& terminal);
     void handle_event(Units_man& units_man);

@@ -1,47 +1,40 @@
 #include "apps/gallery/Gallery.h"
 
+#include <utility>
+
 namespace gallery {
 
-namespace {
-
-/// The style has to know the mask before the pages are laid out with it.
-VT::Comp::Connection_elements& sized(VT::Comp::Connection_elements& style, std::uint16_t mask_size)
-{
-    style.set_sizes(mask_size);
-    return style;
-}
-
-} // namespace
-
 Gallery::Gallery(std::uint16_t mask_size)
-    : numbers(sized(style, mask_size), mask_size, objects), elements(style, mask_size), layouts(numbers),
-      fields(numbers), limits(numbers), working_set("gallery")
+    : style(objects, mask_size), elements(style), layouts(style), fields(style), limits(style), buttons(style),
+      covers(style), working_set("gallery")
 {
     working_set.set_active_mask(elements.root());
-    for (VT::Mask_obj* page : {&layouts.root(), &fields.root(), &limits.root()})
+    for (VT::Mask_obj* page : {&layouts.root(), &fields.root(), &limits.root(), &buttons.root(), &covers.root()})
         working_set.add_mask(*page);
     working_set.add_language("en");
     objects.add(working_set);
 }
 
-std::vector<Picture> Gallery::pictures() const
+std::vector<Picture> Gallery::pictures()
 {
     std::vector<Picture> all;
-    for (VT::Mask_obj* page : pages()) {
-        const std::string name = page->get_name();
-        all.push_back({name, page, Units_man::metric});
-        if (page != pages().front()) {
-            all.push_back({name + "-imperial", page, Units_man::imperial});
-            all.push_back({name + "-us", page, Units_man::us});
-        }
-    }
+    const auto add = [&](Page& page, const std::string& variant, std::function<void()> prepare) {
+        VT::Mask_obj& mask = page.root();
+        all.push_back({mask.get_name() + variant, [this, &mask, prepare = std::move(prepare)] {
+                           prepare();
+                           show(mask);
+                       }});
+    };
+    add(elements, "", [] {});
+    constexpr std::pair<const char*, Units_man::units_systems> systems[] = {
+        {"", Units_man::metric}, {"-imperial", Units_man::imperial}, {"-us", Units_man::us}};
+    for (Page* page : {static_cast<Page*>(&layouts), static_cast<Page*>(&fields), static_cast<Page*>(&limits)})
+        for (const auto& [variant, system] : systems)
+            add(*page, variant, [this, system = system] { style.units.choose(system); });
+    add(buttons, "", [] {});
+    add(covers, "", [this] { covers.set_all_disabled(false); });
+    add(covers, "-disabled", [this] { covers.set_all_disabled(true); });
     return all;
-}
-
-void Gallery::show(const Picture& picture)
-{
-    numbers.units.choose(picture.units);
-    show(*picture.page);
 }
 
 } // namespace gallery

@@ -1,6 +1,8 @@
 #ifndef GALLERY_GALLERY_H
 #define GALLERY_GALLERY_H
 
+#include "apps/gallery/Buttons_page.h"
+#include "apps/gallery/Covers_page.h"
 #include "apps/gallery/Elements_page.h"
 #include "apps/gallery/Fields_page.h"
 #include "apps/gallery/Layouts_page.h"
@@ -8,8 +10,8 @@
 
 #include "pool/Pool.h"
 #include "vt/Working_set_obj.h"
-#include "vtui/comp/Connection_elements.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,8 +21,7 @@ namespace gallery {
 struct Picture
 {
     std::string name;
-    VT::Mask_obj* page;
-    Units_man::units_systems units;
+    std::function<void()> show; ///< while the gallery lives
 };
 
 /// The screens of the gallery for one size of data mask: an application as an implement's maker would write it.
@@ -34,18 +35,19 @@ class Gallery
     const std::vector<VT::Mask_obj*>& pages() const { return working_set.get_masks(); }
     void show(VT::Mask_obj& page) { working_set.set_active_mask(page); }
 
-    /// The screens under their own names and, as far as they have units, in the other systems of units.
-    std::vector<Picture> pictures() const;
-    void show(const Picture& picture);
+    /// The screens under their own names; those with units also in the other systems of units, that of the covers also
+    /// with everything disabled.
+    std::vector<Picture> pictures();
 
   private:
     VT::Pool objects; ///< first: the fields are laid out with its units texts
-    VT::Comp::Connection_elements style;
-    Number_style numbers;
+    Page_style style;
     Elements_page elements;
     Layouts_page layouts;
     Fields_page fields;
     Limits_page limits;
+    Buttons_page buttons;
+    Covers_page covers;
     VT::Working_set_obj working_set;
 };
 

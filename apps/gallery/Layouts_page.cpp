@@ -39,7 +39,7 @@ constexpr int top = 12, row_height = 20, caption_height = 4, height = 14;
 
 } // namespace
 
-Layouts_page::Layouts_page(Number_style& shared) : Number_page("layouts", "Number layouts", shared)
+Layouts_page::Layouts_page(Page_style& page_style) : Number_page("layouts", "Number layouts", page_style)
 {
     int y = top;
     for (const Row& row : rows) {
@@ -49,8 +49,7 @@ Layouts_page::Layouts_page(Number_style& shared) : Number_page("layouts", "Numbe
     add_caption("no units", right, top, narrow_width);
     add_column(with_units, left, width, nullptr);
     add_column(without_units, right, narrow_width, &style.empty_string);
-    set_stepped(with_units.fields.front(), 0.5, left + width - 8, top);
-    pool.route(*this);
+    set_step([this](int direction) { with_units.fields.front().increment(direction * 0.5); }, left + width - 8, top);
 }
 
 void Layouts_page::add_column(Column& column, int x, int fields_width, VT::String_variable_obj* units_text)

@@ -10,7 +10,7 @@ namespace gallery {
 class Layouts_page final : public Number_page
 {
   public:
-    explicit Layouts_page(Number_style& shared);
+    explicit Layouts_page(Page_style& page_style);
 
   private:
     /// Fields of one size below each other.

@@ -36,7 +36,7 @@ void Limits_page::Field::handle_input_value(double v)
     last_entry.format("%s: %.10g %s", caption, v, metric_units);
 }
 
-Limits_page::Limits_page(Number_style& shared) : Number_page("limits", "Limits", shared)
+Limits_page::Limits_page(Page_style& page_style) : Number_page("limits", "Limits", page_style)
 {
     draw(box, area(width, height), style.fill_white, style.line_black);
     Number_widget::Style inputs = look(Number_widget::right_aligned, box);
@@ -53,7 +53,7 @@ Limits_page::Limits_page(Number_style& shared) : Number_page("limits", "Limits",
         pool.route(field);
         y += row_height;
     }
-    set_stepped(fields.front(), 5, right + 1, top + 1);
+    set_step([this](int direction) { fields.front().increment(direction * 5); }, right + 1, top + 1);
 
     constexpr int log_top = 84;
     draw(log_box, area(right + width - left, 5), style.fill_195, style.line_none);

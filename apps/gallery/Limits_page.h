@@ -9,9 +9,8 @@ namespace gallery {
 class Limits_page final : public Number_page
 {
   public:
-    explicit Limits_page(Number_style& shared);
+    explicit Limits_page(Page_style& page_style);
 
-    using Number_page::handle_event;
     /// The terminal said whether it has a touch screen.
     void handle_event(const VT::VT_information&) { lay_out(); }
 

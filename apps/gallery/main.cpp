@@ -67,7 +67,7 @@ void draw_pages(std::uint16_t mask_size, const std::filesystem::path& folder, te
     apps::Loopback_link link(hardware);
     expect(gallery.pool().load(link));
     for (const Picture& picture : gallery.pictures()) {
-        gallery.show(picture);
+        picture.show();
         const auto file = folder / (picture.name + "-" + std::to_string(mask_size) + ".png");
         if (!renderer.draw(link.terminal).save(QString::fromStdString(file.string())))
             throw std::runtime_error("cannot write " + file.string());

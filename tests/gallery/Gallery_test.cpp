@@ -37,7 +37,7 @@ TEST_P(GalleryAtMaskSize, EveryPageLooksAsItDidWhenItWasLastLookedAt)
     ASSERT_TRUE(gallery.pool().load(link));
     terminal::Renderer renderer;
     for (const gallery::Picture& picture : gallery.pictures()) {
-        gallery.show(picture);
+        picture.show();
         EXPECT_TRUE(matches_golden(renderer.draw(link.terminal), picture.name + "-" + std::to_string(GetParam())));
     }
 }
@@ -45,7 +45,7 @@ TEST_P(GalleryAtMaskSize, EveryPageLooksAsItDidWhenItWasLastLookedAt)
 TEST_P(GalleryAtMaskSize, ComesBackAsItWasWhenTheLinkReturns)
 {
     ASSERT_TRUE(gallery.pool().load(link));
-    gallery.show(gallery.pictures().back());
+    gallery.pictures().back().show();
     terminal::Renderer renderer;
     const QImage before = renderer.draw(link.terminal);
     link.set_down(true);
@@ -74,8 +74,8 @@ TEST_P(GalleryAtMaskSize, LooksTheSameWithoutATouchScreenWhereInputsShowThemselv
     }
     const std::vector<gallery::Picture> pictures = gallery.pictures(), other_pictures = other.pictures();
     for (std::size_t i = 0; i < pictures.size(); ++i) {
-        gallery.show(pictures[i]);
-        other.show(other_pictures[i]);
+        pictures[i].show();
+        other_pictures[i].show();
         expect_equal(pictures[i].name);
     }
 }

@@ -68,7 +68,7 @@ TEST(GalleryOperation, NoTextIsCutOff)
         hardware.mask_size = side;
         Operator op(hardware);
         for (const gallery::Picture& picture : op.gallery.pictures()) {
-            op.gallery.show(picture);
+            picture.show();
             for (const Operator::Shown& shown : op.screen())
                 EXPECT_TRUE(shown.fits) << shown.text << " on " << picture.name << " of " << side;
         }
@@ -214,6 +214,148 @@ TEST(GalleryOperation, WithoutATouchScreenTheOperatorSeesTheInputItself)
     EXPECT_TRUE(op.sees("250"));
     op.use(Operator::units);
     EXPECT_EQ(op.find("22.3").type, Iso::Object_type::input_number);
+}
+
+// On a mask of 480 pixels.
+constexpr int half_icon = 24;
+constexpr terminal::Position spray{50, 330}, left{229, 309}, right{229, 359};
+
+TEST(GalleryOperation, ActionsFillAndDrainTheTank)
+{
+    Operator op;
+    op.turn_to("buttons");
+    EXPECT_TRUE(op.sees("60 %"));
+    op.touch("Fill tank");
+    EXPECT_TRUE(op.sees("70 %"));
+    for (int i = 0; i < 4; ++i)
+        op.touch("Fill tank");
+    EXPECT_TRUE(op.sees("100 %"));
+    for (int i = 0; i < 11; ++i)
+        op.touch("Drain tank");
+    EXPECT_TRUE(op.sees("0 %"));
+}
+
+TEST(GalleryOperation, AFingerThatSlipsOffAButtonDoesNothing)
+{
+    Operator op;
+    op.turn_to("buttons");
+    op.slip_from("Fill tank");
+    EXPECT_TRUE(op.sees("60 %"));
+    op.touch("Fill tank");
+    EXPECT_TRUE(op.sees("70 %"));
+}
+
+TEST(GalleryOperation, ActionsMoveTheBoomBetweenItsEnds)
+{
+    Operator op;
+    op.turn_to("buttons");
+    const auto height = [&] {
+        for (const Operator::Shown& shown : op.screen())
+            if (shown.type == Iso::Object_type::rectangle && shown.area.width() == 230)
+                return shown.area.top;
+        return -1;
+    };
+    const int start = height();
+    op.touch("Boom up");
+    const int higher = height();
+    EXPECT_LT(higher, start);
+    op.touch("Boom up");
+    const int highest = height();
+    EXPECT_LT(highest, higher);
+    op.touch("Boom up");
+    EXPECT_EQ(height(), highest);
+    for (int i = 0; i < 4; ++i)
+        op.touch("Boom down");
+    EXPECT_GT(height(), start);
+}
+
+TEST(GalleryOperation, TogglesAndCheckBoxesSayWhereTheSprayerSprays)
+{
+    Operator op;
+    op.turn_to("buttons");
+    EXPECT_EQ(op.pictures(half_icon), 6U + 1U) << "drops, and the icon of the combo";
+    op.touch_at(left);
+    EXPECT_EQ(op.pictures(half_icon), 3U + 1U);
+    op.touch_at(right);
+    EXPECT_EQ(op.pictures(half_icon), 1U);
+    op.touch_at(left);
+    op.touch_at(spray);
+    EXPECT_EQ(op.pictures(half_icon), 1U);
+    op.touch_at(spray);
+    EXPECT_EQ(op.pictures(half_icon), 3U + 1U);
+}
+
+TEST(GalleryOperation, TheComboAndItsSoftKeyTurnAllOff)
+{
+    Operator op;
+    op.turn_to("buttons");
+    op.touch("All off");
+    EXPECT_EQ(op.pictures(half_icon), 1U);
+    op.touch_at(spray);
+    EXPECT_EQ(op.pictures(half_icon), 6U + 1U);
+    op.press(Operator::all_off);
+    EXPECT_EQ(op.pictures(half_icon), 6U + 1U);
+    op.release(Operator::all_off);
+    EXPECT_EQ(op.pictures(half_icon), 1U);
+}
+
+TEST(GalleryOperation, SaysWhichButtonWasPressedAndHowALatchStands)
+{
+    Operator op;
+    op.turn_to("buttons");
+    EXPECT_TRUE(op.sees("Last: none"));
+    for (const char* name : {"plain", "bevel", "black", "blue"}) {
+        const Area caption = op.find(name).area;
+        op.touch_at({(caption.left + caption.right) / 2, caption.top - 20});
+        EXPECT_TRUE(op.sees(std::string("Last: ") + name));
+    }
+    const Area caption = op.find("latch").area;
+    for (const char* state : {"down", "up", "down"}) {
+        op.touch_at({(caption.left + caption.right) / 2, caption.top - 20});
+        EXPECT_TRUE(op.sees(std::string("Last: latch ") + state));
+    }
+}
+
+TEST(GalleryOperation, ACoveredComponentTakesNoFingerUntilItIsEnabledAgain)
+{
+    Operator op;
+    op.turn_to("covers");
+    const std::pair<Operator::Key, const char*> parts[] = {
+        {Operator::button, "Fill tank"}, {Operator::label, "Label"}, {Operator::panel, "All off"}};
+    for (const auto& [key, text] : parts) {
+        op.use(key);
+        op.touch_in_vain(text);
+        op.use(key);
+        op.touch(text);
+    }
+    op.use(Operator::everything);
+    for (const auto& [key, text] : parts)
+        op.touch_in_vain(text);
+    op.use(Operator::everything);
+    op.touch("Fill tank");
+    EXPECT_TRUE(op.sees("Last: button"));
+    op.touch("Label");
+    EXPECT_TRUE(op.sees("Last: label"));
+    op.touch("All off");
+    EXPECT_TRUE(op.sees("Last: combo"));
+}
+
+TEST(GalleryOperation, EachComponentGetsTheSmallestCoverThatHidesIt)
+{
+    constexpr int tile = 32;
+    constexpr std::pair<Operator::Key, std::size_t> tiles[] = {{Operator::check, 1},
+                                                               {Operator::toggle, 4},
+                                                               {Operator::button, 16},
+                                                               {Operator::label, 64},
+                                                               {Operator::panel, 256}};
+    Operator op;
+    op.turn_to("covers");
+    for (const auto& [key, count] : tiles) {
+        op.use(key);
+        EXPECT_EQ(op.pictures(tile), count);
+        op.use(key);
+        EXPECT_EQ(op.pictures(tile), 0U);
+    }
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "iso11783/Font_size.h"
 #include "terminal/Indirection.h"
 #include "terminal/Number_text.h"
+#include "terminal/draw/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -18,6 +19,8 @@ using terminal::Position;
 namespace {
 
 using Shown = Operator::Shown;
+
+constexpr unsigned auto_wrap = 2; // among the options of a string
 
 bool is_number(Object object) { return object.is(Object_type::input_number) || object.is(Object_type::output_number); }
 
@@ -38,16 +41,32 @@ bool operator==(const Area& a, const Area& b)
     return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
 }
 
-/// True if nothing is cut off a text in this area, of which the window is visible.
+/// True if nothing is cut off a text in this area, of which the window is visible, and no word is torn.
 bool fits(const terminal::Object_pool& pool, Object field, const std::string& text, const Area& area,
           const Area& window)
 {
     if (text.empty())
         return true;
     const Iso::Font_size font = Iso::font_size(pool.find(field.reference(Field::font)).u8(Field::font_size));
-    return font.width * static_cast<int>(text.size()) <= area.width() && font.height <= area.height() &&
-           (area & window) == area;
+    const bool wraps = field.is(Object_type::output_string) && field.u8(Field::options) & auto_wrap;
+    const auto columns = static_cast<std::size_t>(area.width() / font.width);
+    std::size_t widest = 0;
+    bool torn = false;
+    int lines = 0;
+    for (std::string_view rest = text; !rest.empty(); ++lines) {
+        const std::string_view line = terminal::take_line(rest, columns, {wraps, false});
+        torn |= !rest.empty() && text[text.size() - rest.size() - 1] != ' ';
+        widest = std::max(widest, line.size());
+    }
+    if (torn || widest > columns)
+        return false;
+    const int width = static_cast<int>(widest) * font.width;
+    const int left = area.left + (field.u8(Field::justification) & 3) * (area.width() - width) / 2;
+    const Area written{left, area.top, left + width, area.top + lines * font.height};
+    return written.bottom <= area.bottom && (written & window) == written;
 }
+
+Position middle(const Area& area) { return {(area.left + area.right) / 2, (area.top + area.bottom) / 2}; }
 
 /// What `parent`, which lies there, shows inside the window.
 void collect(const terminal::Object_pool& pool, Object parent, Position place, const Area& window,
@@ -55,7 +74,9 @@ void collect(const terminal::Object_pool& pool, Object parent, Position place, c
 {
     bool covered = true; // the first child, where it is a number: the field's backdrop comes over it
     for (const terminal::Child child : parent.children()) {
-        const Object object = pool.find(child.id);
+        const Object object = terminal::shown(pool, pool.find(child.id));
+        if (!object || (object.is(Object_type::container) && object.u8(Field::hidden) != 0))
+            continue;
         const Area area = terminal::box_of(object).moved(place.x + child.x, place.y + child.y);
         const std::string text = text_of(pool, object);
         if (!covered || !is_number(object))
@@ -115,10 +136,21 @@ void Operator::enter(std::size_t input, std::uint32_t raw)
     deliver();
 }
 
-void Operator::touch(const std::string& text)
+void Operator::touch(const std::string& text) { touch_at(middle(find(text).area)); }
+
+void Operator::touch_at(Position place)
 {
-    const Area area = find(text).area;
-    EXPECT_TRUE(link.terminal.touch({(area.left + area.right) / 2, (area.top + area.bottom) / 2}));
+    EXPECT_TRUE(link.terminal.touch(place));
+    deliver();
+}
+
+void Operator::touch_in_vain(const std::string& text) { EXPECT_FALSE(link.terminal.touch(middle(find(text).area))); }
+
+void Operator::slip_from(const std::string& text)
+{
+    EXPECT_TRUE(link.terminal.press(middle(find(text).area)));
+    EXPECT_TRUE(link.terminal.move({-1, -1}));
+    EXPECT_FALSE(link.terminal.release());
     deliver();
 }
 
@@ -155,6 +187,14 @@ bool Operator::sees_rectangle(const Area& area) const
     const std::vector<Shown> all = screen();
     return std::any_of(all.begin(), all.end(),
                        [&](const Shown& shown) { return shown.type == Object_type::rectangle && shown.area == area; });
+}
+
+std::size_t Operator::pictures(int width) const
+{
+    const std::vector<Shown> all = screen();
+    return static_cast<std::size_t>(std::count_if(all.begin(), all.end(), [&](const Shown& shown) {
+        return shown.type == Object_type::picture_graphic && shown.area.width() == width;
+    }));
 }
 
 void Operator::deliver()

@@ -13,10 +13,10 @@
 class Operator
 {
   public:
-    /// Soft keys of the number pages, by their cells.
-    enum Key { units, up, down };
+    /// Soft keys by their cells: of the number pages, of the buttons, of the covers.
+    enum Key { units = 0, up, down, all_off = 0, check = 0, toggle, button, label, panel, everything };
 
-    /// A text or a number as the terminal shows it, or a rectangle, which has no text.
+    /// A text or a number as the terminal shows it, or an object without text: a rectangle, a picture.
     struct Shown
     {
         std::string text;
@@ -35,17 +35,25 @@ class Operator
     /// Enters a raw number into the page's input of that number, counted from 0 as they were placed.
     void enter(std::size_t input, std::uint32_t raw);
 
-    /// Lays a finger on the middle of a text.
+    /// Taps with a finger on the middle of a text, or on a pixel.
     void touch(const std::string& text);
+    void touch_at(terminal::Position place);
+    /// Taps there, too, where nothing reacts.
+    void touch_in_vain(const std::string& text);
+    /// Lays a finger on the middle of a text, and lifts it outside the mask.
+    void slip_from(const std::string& text);
     /// Ends the entry that is open with this number, in display units.
     void type(const std::string& number);
 
-    /// Everything in the mask that is shown, in the order of drawing, except numbers that are covered.
+    /// Everything in the mask that is shown, behind pointers too, in the order of drawing, except numbers that are
+    /// covered.
     std::vector<Shown> screen() const;
     bool sees(const std::string& text) const;
     /// The one that shows this text. Throws std::out_of_range if there is none.
     Shown find(const std::string& text) const;
     bool sees_rectangle(const terminal::Area& area) const;
+    /// How many pictures of that width are shown.
+    std::size_t pictures(int width) const;
 
     apps::Loopback_link link;
     gallery::Gallery gallery;
