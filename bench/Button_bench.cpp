@@ -1,4 +1,5 @@
-#include "apps/Loopback_link.h"
+#include "bench/Deaf_link.h"
+
 #include "pool/Pool.h"
 #include "vt/Working_set_obj.h"
 #include "vtui/comp/widgets/Border_widget.h"
@@ -105,22 +106,6 @@ void size_labelled_button(benchmark::State& state)
     resize_it(state, field, Dimension(5, 3));
 }
 BENCHMARK(size_labelled_button);
-
-/// The way to a terminal that loads the pool and is deaf afterwards: what follows is the pool's work alone.
-class Deaf_link final : public VT::Client::Terminal_link
-{
-  public:
-    bool send(const std::uint8_t* message, std::size_t size) override { return deaf || link.send(message, size); }
-    bool receive(std::vector<std::uint8_t>& message, std::chrono::milliseconds timeout) override
-    {
-        return link.receive(message, timeout);
-    }
-
-    bool deaf{false};
-
-  private:
-    apps::Loopback_link link;
-};
 
 /// A live screen with routed components, each with a control that the operator can activate.
 struct Live_screen

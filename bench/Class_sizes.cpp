@@ -10,16 +10,23 @@
 #include "vtui/comp/objects/Output_number_obj.h"
 #include "vtui/comp/objects/Output_string_obj.h"
 #include "vtui/comp/objects/Polygon_obj.h"
+#include "vtui/comp/widgets/Arrow_widget.h"
 #include "vtui/comp/widgets/Border_widget.h"
 #include "vtui/comp/widgets/Bordered_number_widget.h"
 #include "vtui/comp/widgets/Button_background_widget.h"
 #include "vtui/comp/widgets/Check_box_widget.h"
+#include "vtui/comp/widgets/Crumb_trail.h"
+#include "vtui/comp/widgets/Custom_select_widget.h"
 #include "vtui/comp/widgets/Disable_widget.h"
 #include "vtui/comp/widgets/Function_key.h"
 #include "vtui/comp/widgets/Icon_text_button_widget.h"
 #include "vtui/comp/widgets/Key_button_combo_widget.h"
+#include "vtui/comp/widgets/Label_content_widget.h"
 #include "vtui/comp/widgets/Labelled_input_widget.h"
 #include "vtui/comp/widgets/Placement_widget.h"
+#include "vtui/comp/widgets/Scroll_horizontal_widget.h"
+#include "vtui/comp/widgets/Scroll_widget.h"
+#include "vtui/comp/widgets/Title_widget.h"
 #include "vtui/comp/widgets/Toggle_button_widget.h"
 
 #include <cstdio>
@@ -51,6 +58,8 @@ void print_class_sizes()
         {"String_variable_obj<4>", sizeof(String_variable_obj<4>)},
         {"Child_placements_array<Array_array_4>", sizeof(Child_placements_array<Array_array_4>)},
         {"Placement_widget", sizeof(Placement_widget)},
+        {"Title_widget", sizeof(Title_widget)},
+        {"Label_content_widget", sizeof(Label_content_widget)},
         {"Number_widget", sizeof(Number_widget)},
         {"Number_widget::Specification", sizeof(Number_widget::Specification)},
         {"Bordered_number_widget", sizeof(Bordered_number_widget)},
@@ -68,6 +77,12 @@ void print_class_sizes()
         {"Function_key", sizeof(Function_key)},
         {"Key_button_combo_widget", sizeof(Key_button_combo_widget)},
         {"Labelled_input_widget<Button_widget>", sizeof(Labelled_input_widget<Button_widget>)},
+        {"Arrow_widget", sizeof(Arrow_widget)},
+        {"Crumb_trail", sizeof(Crumb_trail)},
+        {"Scroll_widget", sizeof(Scroll_widget)},
+        {"Scroll_horizontal_widget", sizeof(Scroll_horizontal_widget)},
+        {"Custom_select_widget<50, 2>", sizeof(Custom_select_widget<50, 2>)},
+        {"  its buttons, on the heap", 50 * sizeof(Toggle_button_widget)},
         {"Disable_cover_widget_impl<5>", sizeof(Disable_cover_widget_impl<5>)},
         {"Connection_elements", sizeof(Connection_elements)},
     };

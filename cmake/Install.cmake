@@ -12,9 +12,9 @@ function(vtui_install_library package target)
     cmake_parse_arguments(arg "" "MODULE;DESCRIPTION" "REQUIRES;HEADERS" ${ARGN})
     set(includes ${CMAKE_INSTALL_INCLUDEDIR}/${package})
     install(TARGETS ${target} EXPORT ${package}-targets INCLUDES DESTINATION ${includes})
-    # Caption.h serves two of the sources only.
+    # These two serve a few of the sources only.
     install(DIRECTORY ${arg_HEADERS} DESTINATION ${includes} FILES_MATCHING PATTERN "*.h"
-        PATTERN "widgets/Caption.h" EXCLUDE)
+        PATTERN "widgets/Caption.h" EXCLUDE PATTERN "widgets/Scroll_parts.h" EXCLUDE)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
 
     list(JOIN arg_REQUIRES ", " arg_REQUIRES)

@@ -3,18 +3,25 @@
 #include "vtui/comp/objects/Has_vertices.h"
 #include "vtui/comp/objects/N_state_pointer_obj.h"
 #include "vtui/comp/objects/Rectangle_obj.h"
+#include "vtui/comp/widgets/Arrow_widget.h"
 #include "vtui/comp/widgets/Border_widget.h"
 #include "vtui/comp/widgets/Bordered_number_widget.h"
 #include "vtui/comp/widgets/Button_background_widget.h"
 #include "vtui/comp/widgets/Button_border_widget.h"
 #include "vtui/comp/widgets/Button_widget.h"
 #include "vtui/comp/widgets/Check_box_widget.h"
+#include "vtui/comp/widgets/Crumb_trail.h"
+#include "vtui/comp/widgets/Custom_select_widget.h"
 #include "vtui/comp/widgets/Disable_widget.h"
 #include "vtui/comp/widgets/Function_key.h"
 #include "vtui/comp/widgets/Icon_text_button_widget.h"
 #include "vtui/comp/widgets/Key_button_combo_widget.h"
+#include "vtui/comp/widgets/Label_content_widget.h"
 #include "vtui/comp/widgets/Labelled_input_widget.h"
 #include "vtui/comp/widgets/Placement_widget.h"
+#include "vtui/comp/widgets/Scroll_horizontal_widget.h"
+#include "vtui/comp/widgets/Scroll_widget.h"
+#include "vtui/comp/widgets/Title_widget.h"
 #include "vtui/comp/widgets/Toggle_button_widget.h"
 
 #include <gtest/gtest.h>
@@ -209,6 +216,69 @@ TEST(MemberOrder, OfAKeyButtonComboWidget)
     const Key_button_combo_widget w(style);
     EXPECT_TRUE(ascend({&w.placements, &w.container, &w.button, &w.border, &w.icon_text, &w.soft_key}));
     EXPECT_EQ(static_cast<const void*>(&w.placements), &w);
+}
+
+TEST(MemberOrder, OfBothScrollWidgets)
+{
+    Connection_elements style;
+    const Scroll_widget down(style, nullptr, nullptr);
+    EXPECT_TRUE(ascend({&down.container, &down.placements.placements, &down.placements.attributes, &down.up_key_pointer,
+                        &down.down_key_pointer, &down.track, &down.indicator, &down.indicator_fill, &down.up_key,
+                        &down.down_key}));
+    EXPECT_EQ(static_cast<const void*>(&down.container), &down);
+    const Scroll_horizontal_widget on(style, nullptr, nullptr, nullptr);
+    EXPECT_TRUE(
+        ascend({&on.container, &on.placements.placements, &on.placements.attributes, &on.left_key_pointer,
+                &on.right_key_pointer, &on.track, &on.indicator, &on.indicator_fill, &on.left_key, &on.right_key}));
+    EXPECT_EQ(static_cast<const void*>(&on.container), &on);
+}
+
+TEST(MemberOrder, OfACustomSelectWidgetStartsWithTheSeparator)
+{
+    Connection_elements style;
+    const Custom_select_widget<50, 2> w(style);
+    EXPECT_TRUE(ascend({&w.separator, &w.container, &w.placements.placements, &w.placements.attributes, &w.selected,
+                        &w.last_was_ours, &w.items}));
+    EXPECT_EQ(static_cast<const void*>(&w.separator), &w);
+}
+
+TEST(MemberOrder, OfATitleWidget)
+{
+    Connection_elements style;
+    const Title_widget w(style);
+    EXPECT_TRUE(ascend({&w.text_obj, &w.text, &w.font, &w.container, &w.placements}));
+    EXPECT_EQ(static_cast<const void*>(&w.text_obj), &w);
+}
+
+TEST(MemberOrder, OfALabelContentWidget)
+{
+    Rectangle_obj background;
+    const Label_content_widget w(background, {nullptr, nullptr});
+    EXPECT_TRUE(ascend({&w.container, &w.item, &w.item.content_obj, &w.placements}));
+    EXPECT_EQ(static_cast<const void*>(&w.container), &w);
+    EXPECT_EQ(static_cast<const void*>(&w.item.label_obj), &w.item);
+}
+
+TEST(MemberOrder, OfAnArrowWidget)
+{
+    Line_attributes_obj line(0, 1, 0xFFFF);
+    const Arrow_widget w(line);
+    EXPECT_TRUE(ascend({&w.polygon, &w.vertices}));
+    EXPECT_EQ(static_cast<const void*>(&w.polygon), &w);
+}
+
+TEST(MemberOrder, OfACrumbTrail)
+{
+    Connection_elements style;
+    const Crumb_trail w(style);
+    EXPECT_TRUE(
+        ascend({&w.container, &w.placements, &w.arrow, &w.corner_pixels, &w.corner_top_right, &w.corner_bottom_right,
+                &w.corner_top_left, &w.corner_bottom_left, &w.frame_vertical_line, &w.frame_horizontal_line,
+                &w.select_frame, &w.select_frame_placements, &w.select_line, &w.crumb_pointers}));
+    EXPECT_EQ(static_cast<const void*>(&w.container), &w);
+    EXPECT_EQ(static_cast<const void*>(&w.arrow_pointers), &w.crumb_pointers + 1) << "one row of pointers";
+    EXPECT_EQ(static_cast<const void*>(&w.select_pointers), &w.arrow_pointers + 1);
+    EXPECT_EQ(static_cast<const void*>(&w.select_line_pointers), &w.select_pointers + 1);
 }
 
 } // namespace
