@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::uint8_t latchable = 1, transparent = 8, no_border = 32; // options of a button
 
-constexpr const char* look_names[] = {"plain", "latch", "bevel", "black", "blue"};
+constexpr const char* look_names[] = {"plain", "latch", "bevel", "white", "blue"};
 constexpr std::size_t latching = 1;
 
 constexpr int left_edge = 2, switches_top = 58;
@@ -21,9 +21,8 @@ Buttons_page::Buttons_page(Page_style& page_style)
     : Page("buttons", silver, page_style), looks{Button(style.null_pointer), Button(style.null_pointer),
                                                  Button(style.null_pointer), Button(style.null_pointer),
                                                  Button(style.null_pointer)},
-      background(style), border(style), button_border(style), command_names{Words("Boom up"), Words("Boom down"),
-                                                                            Words("Fill tank"), Words("Drain tank")},
-      commands{Icon_button(style), Icon_button(style), Icon_button(style), Icon_button(style)},
+      background(style), border(style),
+      button_border(style), commands{Icon_button(style), Icon_button(style), Icon_button(style), Icon_button(style)},
       spray(shared.icons, Icon::drop_grey, Icon::drop), lamp(shared.icons, Icon::lamp_off, Icon::lamp_on),
       left(style, &shared.icons[Icon::box_checked], &shared.icons[Icon::box_empty]),
       right(style, &shared.icons[Icon::box_checked], &shared.icons[Icon::box_empty]), all_off(style),
@@ -76,6 +75,7 @@ void Buttons_page::show_looks()
 void Buttons_page::show_commands()
 {
     constexpr int top = 32, width = 20, height = 20, step = 24;
+    constexpr const char* names[] = {"Boom up", "Boom down", "Fill tank", "Drain tank"};
     constexpr Icon pictures[] = {Icon::boom_up, Icon::boom_down, Icon::fill, Icon::drain};
     const std::function<void()> actions[] = {[this] { sprayer.set_boom(sprayer.get_boom() + 1); },
                                              [this] { sprayer.set_boom(sprayer.get_boom() - 1); },
@@ -87,7 +87,7 @@ void Buttons_page::show_commands()
         Icon_button& command = commands[i];
         command.caption.set_font(&shared.title_font); // its face is dark
         command.set_icon(&shared.icons[pictures[i]]);
-        command.set_text(&command_names[i].variable);
+        command.set_text(&words(names[i]));
         command.set_size(area(width, height));
         command.action = actions[i];
         mask.add(command.root(), at(x), at(top));
@@ -127,11 +127,10 @@ void Buttons_page::show_combo()
     constexpr int x = 74, width = 20, height = 18;
     add_caption("Combo", x, switches_top - 4, 20);
     all_off.set_icon(&shared.icons.half(Icon::stop), &shared.icons[Icon::stop]);
-    all_off.set_text(&off.variable);
+    all_off.set_text(&words("All off"));
     all_off.icon_text.caption.set_font(&shared.title_font); // its face is dark, too
     all_off.set_size(area(width, height));
-    all_off.soft_key.set_background_colour(silver);
-    all_off.soft_key.set_size(key_size);
+    finish(all_off.soft_key);
     mask.add(all_off.root(), at(x), at(switches_top));
     keys.add(all_off.get_soft_key());
     mask.set_soft_key_mask(&keys);

@@ -1,6 +1,7 @@
 #ifndef GALLERY_BUTTONS_PAGE_H
 #define GALLERY_BUTTONS_PAGE_H
 
+#include "apps/gallery/Framed_key.h"
 #include "apps/gallery/Icon_toggle.h"
 #include "apps/gallery/Page.h"
 #include "apps/gallery/Sprayer.h"
@@ -47,13 +48,11 @@ class Buttons_page final : public Page
     VT::Comp::Border_widget border;
     VT::Comp::Button_border_widget button_border;
 
-    std::array<Words, 4> command_names;
     std::array<Icon_button, 4> commands;
 
     Icon_toggle spray, lamp;
     Check_box left, right;
 
-    Words off{"All off"};
     VT::Comp::Key_button_combo_widget all_off;
     VT::Soft_key_mask_obj keys;
 

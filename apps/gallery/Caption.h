@@ -29,6 +29,8 @@ class Words
 class Caption
 {
   public:
+    enum Vertical { top, centre };
+
     Caption(const char* text, VT::Comp::Font_attributes_obj& font) : words(text)
     {
         string.set_font(&font);
@@ -37,7 +39,10 @@ class Caption
     }
 
     void set_size(VT::Comp::Dimension size) { resize(string, size); }
-    void set_justification(VT::Field_obj::Horizontal horizontal) { string.justification = horizontal; }
+    void set_justification(VT::Field_obj::Horizontal horizontal, Vertical vertical = top)
+    {
+        string.justification = static_cast<std::uint8_t>(horizontal | vertical << 2);
+    }
 
     VT::VT_obj& root() { return string; }
 

@@ -37,7 +37,7 @@ Covers_page::Covers_page(Page_style& page_style)
     : Page("covers", silver, page_style),
       check_box(style, &shared.icons.half(Icon::box_checked), &shared.icons.half(Icon::box_empty)),
       toggle(shared.icons, Icon::lamp_off, Icon::lamp_on), button(style),
-      labelled(&style.font_2, &label.variable, style.null_pointer), combo(style),
+      labelled(&style.font_2, &words("Label"), style.null_pointer), combo(style),
       panel_toggle(shared.icons, Icon::drop_grey, Icon::drop), all_caption("All", shared),
       all_key(shared, all_caption.root(), [this] { set_all_disabled(!all_are_disabled); })
 {
@@ -68,7 +68,7 @@ void Covers_page::build_buttons()
 {
     const Dimension size = area(24, 24);
     button.set_icon(&shared.icons[Icon::fill]);
-    button.set_text(&fill.variable);
+    button.set_text(&words("Fill tank"));
     button.caption.set_font(&shared.title_font);
     button.set_size(size);
     add("Button", button.root(), 28, row, size, {&button.button.button});
@@ -86,7 +86,7 @@ void Covers_page::build_panel()
 {
     const Dimension size = area(92, 44), combo_size = area(44, 36), toggle_size = area(32, 36);
     combo.set_icon(&shared.icons[Icon::stop], &shared.icons[Icon::stop]);
-    combo.set_text(&stop.variable);
+    combo.set_text(&words("All off"));
     combo.icon_text.caption.set_font(&shared.title_font);
     combo.set_size(combo_size);
     panel_toggle.set_size(toggle_size);

@@ -62,12 +62,9 @@ class Covers_page final : public Page
 
     VT::Comp::Check_box_widget check_box;
     Icon_toggle toggle;
-    Words fill{"Fill tank"};
     VT::Comp::Icon_text_button_widget button;
-    Words label{"Label"};
     VT::Comp::Labelled_input_widget<VT::Comp::Button_widget> labelled;
 
-    Words stop{"All off"};
     VT::Comp::Key_button_combo_widget combo;
     Icon_toggle panel_toggle;
     VT::Comp::Rectangle_obj panel_background;

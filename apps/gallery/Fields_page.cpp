@@ -31,11 +31,11 @@ Fields_page::Fields_page(Page_style& page_style)
     : Number_page("fields", "Sprayer", page_style), speed(shown_look(), km_per_hour, nullptr),
       flow(shown_look(), litres_per_minute, nullptr), pressure(shown_look(), bar, psi, nullptr),
       work_rate(shown_look(), hectares_per_hour, nullptr), worked(shown_look(), hectares, nullptr),
-      rate(&style.font_2, &rate_label.variable, setting_look(), litres_per_hectare, gallons_per_acre, nullptr),
-      boom_width(&style.font_2, &boom_label.variable, setting_look(), metres, feet, nullptr),
-      tank(&style.font_2, &tank_label.variable, setting_look(), litres, nullptr),
-      lowest_pressure(&style.font_2, &alarm_label.variable, setting_look(), bar, psi, nullptr),
-      row_width(&style.font_2, &row_label.variable, setting_look(), hundredths, nullptr)
+      rate(&style.font_2, &words("Set rate"), setting_look(), litres_per_hectare, gallons_per_acre, nullptr),
+      boom_width(&style.font_2, &words("Boom width"), setting_look(), metres, feet, nullptr),
+      tank(&style.font_2, &words("Tank"), setting_look(), litres, nullptr),
+      lowest_pressure(&style.font_2, &words("Alarm below"), setting_look(), bar, psi, nullptr),
+      row_width(&style.font_2, &words("Row width"), setting_look(), hundredths, nullptr)
 {
     for (Shown* field : shown)
         field->init(&pool, nullptr);

@@ -34,8 +34,6 @@ class Fields_page final : public Number_page
     template <class Event>
     void tell_fields(Event& event);
 
-    Words rate_label{"Set rate"}, boom_label{"Boom width"}, tank_label{"Tank"}, alarm_label{"Alarm below"},
-        row_label{"Row width"};
     VT::Comp::Rectangle_obj setting_frame;
 
     Shown speed, flow, pressure, work_rate, worked;

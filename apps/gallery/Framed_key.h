@@ -22,6 +22,23 @@ struct Key_caption : Caption
     }
 };
 
+/// What a soft key shows, as large as itself: an object in the middle of a frame.
+class Key_face
+{
+  public:
+    /// The content stays the caller's, and has its size.
+    Key_face(Page_style& shared, VT::VT_obj& content);
+
+    VT::VT_obj& root() { return container; }
+
+  private:
+    VT::Comp::Container_obj container;
+    VT::Comp::Child_placements_array<Array_array_2> children;
+};
+
+/// Gives a key that has its content the size of a cell and the colour of all keys.
+void finish(VT::Comp::Key_widget& key);
+
 /// A soft key with a frame around what is in its middle.
 class Framed_key
 {
@@ -32,9 +49,8 @@ class Framed_key
     VT::VT_obj& root() { return key.root(); }
 
   private:
+    Key_face face;
     VT::Comp::Function_key key;
-    VT::Comp::Container_obj face;
-    VT::Comp::Child_placements_array<Array_array_2> children;
 };
 
 } // namespace gallery

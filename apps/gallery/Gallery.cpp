@@ -6,10 +6,11 @@ namespace gallery {
 
 Gallery::Gallery(std::uint16_t mask_size)
     : style(objects, mask_size), elements(style), layouts(style), fields(style), limits(style), buttons(style),
-      covers(style), working_set("gallery")
+      covers(style), trail(style), scroll(style), list(style), working_set("gallery")
 {
     working_set.set_active_mask(elements.root());
-    for (VT::Mask_obj* page : {&layouts.root(), &fields.root(), &limits.root(), &buttons.root(), &covers.root()})
+    for (VT::Mask_obj* page : {&layouts.root(), &fields.root(), &limits.root(), &buttons.root(), &covers.root(),
+                               &trail.root(), &scroll.root(), &list.root()})
         working_set.add_mask(*page);
     working_set.add_language("en");
     objects.add(working_set);
@@ -34,6 +35,14 @@ std::vector<Picture> Gallery::pictures()
     add(buttons, "", [] {});
     add(covers, "", [this] { covers.set_all_disabled(false); });
     add(covers, "-disabled", [this] { covers.set_all_disabled(true); });
+    add(trail, "", [] {});
+    add(trail, "-deeper", [this] {
+        trail.go_down();
+        trail.go_down();
+    });
+    add(scroll, "", [] {});
+    add(scroll, "-jumped", [this] { scroll.jump(); });
+    add(list, "", [] {});
     return all;
 }
 

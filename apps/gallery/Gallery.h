@@ -7,6 +7,9 @@
 #include "apps/gallery/Fields_page.h"
 #include "apps/gallery/Layouts_page.h"
 #include "apps/gallery/Limits_page.h"
+#include "apps/gallery/List_page.h"
+#include "apps/gallery/Scroll_page.h"
+#include "apps/gallery/Trail_page.h"
 
 #include "pool/Pool.h"
 #include "vt/Working_set_obj.h"
@@ -35,8 +38,8 @@ class Gallery
     const std::vector<VT::Mask_obj*>& pages() const { return working_set.get_masks(); }
     void show(VT::Mask_obj& page) { working_set.set_active_mask(page); }
 
-    /// The screens under their own names; those with units also in the other systems of units, that of the covers also
-    /// with everything disabled.
+    /// The screens under their own names, and what they look like when they have been operated: in other systems of
+    /// units, disabled, gone deeper, scrolled.
     std::vector<Picture> pictures();
 
   private:
@@ -48,6 +51,9 @@ class Gallery
     Limits_page limits;
     Buttons_page buttons;
     Covers_page covers;
+    Trail_page trail;
+    Scroll_page scroll;
+    List_page list;
     VT::Working_set_obj working_set;
 };
 

@@ -6,9 +6,9 @@ using namespace VT::Comp;
 
 void Page::add_title_bar(const char* title)
 {
-    draw(title_bar, {mask_size, span(5)}, style.fill_17, style.line_none);
-    mask.add(title_bar, 0, 0);
-    add_caption(title, 2, 1, 50, VT::Field_obj::left, &shared.title_font);
+    title_bar.set_text(&words(title));
+    title_bar.set_size({mask_size, span(5)});
+    mask.add(title_bar.root(), 0, 0);
 }
 
 void Page::add_caption(const char* words, int x, int y, int width, VT::Field_obj::Horizontal justification,
@@ -23,7 +23,7 @@ void Page::add_caption(const char* words, int x, int y, int width, VT::Field_obj
 
 void Page::add_text(VT::String_variable_obj& text, Font_attributes_obj& font, int x, int y, int width)
 {
-    Output_string_obj& string = texts.emplace_back();
+    Output_string_obj& string = strings.emplace_back();
     string.set_font(&font);
     string.set_variable(&text);
     string.options = VT::Field_obj::transparent;

@@ -7,6 +7,7 @@
 #include "vt/Mask_obj.h"
 #include "vtui/comp/objects/Dimension.h"
 #include "vtui/comp/objects/Rectangle_obj.h"
+#include "vtui/comp/widgets/Title_widget.h"
 
 #include <deque>
 
@@ -23,7 +24,7 @@ class Page
   protected:
     Page(const char* name, std::uint8_t background, Page_style& page_style)
         : shared(page_style), style(shared.elements), pool(shared.pool), mask_size(shared.mask_size),
-          mask(name, background)
+          mask(name, background), title_bar(style, &shared.title_font)
     {}
     ~Page() = default;
 
@@ -33,6 +34,9 @@ class Page
 
     /// 5 high, at the top.
     void add_title_bar(const char* title);
+
+    /// A text that stays as it is, for a component to show.
+    VT::String_variable_obj& words(const char* text) { return texts.emplace_back(text).variable; }
 
     /// One line of text in the first font of the style set, unless another is given.
     void add_caption(const char* words, int x, int y, int width,
@@ -54,8 +58,9 @@ class Page
     std::deque<Caption> captions;
 
   private:
-    VT::Comp::Rectangle_obj title_bar;
-    std::deque<VT::Comp::Output_string_obj> texts;
+    VT::Comp::Title_widget title_bar;
+    std::deque<Words> texts;
+    std::deque<VT::Comp::Output_string_obj> strings;
 };
 
 } // namespace gallery

@@ -32,7 +32,8 @@ struct Page_style
     VT::Comp::Connection_elements elements;
     Icons icons;
     Unit_choice units;
-    VT::Comp::Font_attributes_obj title_font;
+    VT::Comp::Font_attributes_obj title_font; ///< white, as all that lies on dark faces
+    VT::Comp::Font_attributes_obj large_font;
     VT::Comp::Font_attributes_obj key_font;
     VT::Comp::Rectangle_obj key_frame;
 };

@@ -68,6 +68,8 @@ TEST(GalleryOperation, NoTextIsCutOff)
         hardware.mask_size = side;
         Operator op(hardware);
         for (const gallery::Picture& picture : op.gallery.pictures()) {
+            if (picture.name.find("scroll") == 0)
+                continue; // its windows cut what they show
             picture.show();
             for (const Operator::Shown& shown : op.screen())
                 EXPECT_TRUE(shown.fits) << shown.text << " on " << picture.name << " of " << side;
@@ -304,7 +306,7 @@ TEST(GalleryOperation, SaysWhichButtonWasPressedAndHowALatchStands)
     Operator op;
     op.turn_to("buttons");
     EXPECT_TRUE(op.sees("Last: none"));
-    for (const char* name : {"plain", "bevel", "black", "blue"}) {
+    for (const char* name : {"plain", "bevel", "white", "blue"}) {
         const Area caption = op.find(name).area;
         op.touch_at({(caption.left + caption.right) / 2, caption.top - 20});
         EXPECT_TRUE(op.sees(std::string("Last: ") + name));
@@ -356,6 +358,132 @@ TEST(GalleryOperation, EachComponentGetsTheSmallestCoverThatHidesIt)
         op.use(key);
         EXPECT_EQ(op.pictures(tile), 0U);
     }
+}
+
+TEST(GalleryOperation, TheTrailGoesDownAndUpBetweenItsEnds)
+{
+    Operator op;
+    op.turn_to("trail");
+    const auto expect_level = [&](const std::string& name, const std::string& depth, std::size_t chevrons) {
+        EXPECT_TRUE(op.sees(name));
+        EXPECT_TRUE(op.sees(depth));
+        const auto is_chevron = [](const Operator::Shown& shown) { return shown.type == Iso::Object_type::polygon; };
+        EXPECT_EQ(op.count(is_chevron), chevrons);
+    };
+    expect_level("Tank", "1", 0);
+    op.use(Operator::back);
+    expect_level("Tank", "1", 0);
+    op.use(Operator::deeper);
+    expect_level("Boom", "2", 1);
+    op.use(Operator::deeper);
+    op.use(Operator::deeper);
+    expect_level("Drop", "4", 3);
+    op.use(Operator::deeper);
+    expect_level("Drop", "4", 3);
+    op.use(Operator::back);
+    expect_level("Nozzle", "3", 2);
+    EXPECT_FALSE(op.sees("Drop"));
+}
+
+TEST(GalleryOperation, TheFrameFollowsTheTrail)
+{
+    Operator op;
+    op.turn_to("trail");
+    const auto corner = [&] {
+        for (const Operator::Shown& shown : op.screen())
+            if (shown.type == Iso::Object_type::picture_graphic && shown.area.width() == 8)
+                return shown.area.left;
+        return -1;
+    };
+    constexpr int cell = 115; // pixels
+    const int start = corner();
+    op.use(Operator::deeper);
+    EXPECT_EQ(corner(), start + cell);
+    op.use(Operator::deeper);
+    EXPECT_EQ(corner(), start + 2 * cell);
+    op.use(Operator::back);
+    EXPECT_EQ(corner(), start + cell);
+}
+
+TEST(GalleryOperation, RowsScrollByHalfTheirWindowBetweenTheirEnds)
+{
+    Operator op;
+    op.turn_to("scroll");
+    constexpr int half = 110, hidden = 380; // pixels
+    const int start = op.find("Fill").area.top;
+    const auto expect_moved = [&](int pixels) { EXPECT_EQ(op.find("Fill").area.top, start - pixels); };
+    op.use(Operator::scroll_up);
+    expect_moved(0);
+    op.press(Operator::scroll_down);
+    expect_moved(0);
+    op.release(Operator::scroll_down);
+    expect_moved(half);
+    for (int i = 0; i < 4; ++i)
+        op.use(Operator::scroll_down);
+    expect_moved(hidden);
+    op.use(Operator::scroll_up);
+    expect_moved(hidden - half);
+}
+
+TEST(GalleryOperation, FewRowsHaveNoBarAndNoKeysUntilThereAreMany)
+{
+    Operator op;
+    op.turn_to("scroll");
+    const Area track{340, 40, 360, 260};
+    EXPECT_TRUE(op.has(Operator::scroll_up));
+    EXPECT_TRUE(op.has(Operator::scroll_down));
+    EXPECT_TRUE(op.sees_rectangle(track));
+    op.use(Operator::scroll_down);
+    op.use(Operator::rows);
+    EXPECT_FALSE(op.has(Operator::scroll_up));
+    EXPECT_FALSE(op.has(Operator::scroll_down));
+    EXPECT_TRUE(op.has(Operator::scroll_left)) << "of the columns";
+    EXPECT_FALSE(op.sees_rectangle(track));
+    op.use(Operator::rows);
+    EXPECT_TRUE(op.has(Operator::scroll_up));
+    EXPECT_TRUE(op.sees_rectangle(track));
+    const int top = op.find("Fill").area.top;
+    op.use(Operator::scroll_down);
+    EXPECT_LT(op.find("Fill").area.top, top);
+}
+
+TEST(GalleryOperation, ColumnsScrollAndJumpToOneOfThem)
+{
+    Operator op;
+    op.turn_to("scroll");
+    constexpr int window_left = 10, window_right = 470, half = 230; // pixels
+    const int start = op.find("1").area.left;
+    op.use(Operator::scroll_right);
+    EXPECT_EQ(op.find("1").area.left, start - half);
+    op.use(Operator::scroll_left);
+    EXPECT_EQ(op.find("1").area.left, start);
+    op.use(Operator::jump);
+    const Area column = op.find("8").area;
+    EXPECT_GE(column.left, window_left);
+    EXPECT_LE(column.right, window_right);
+    op.use(Operator::jump);
+    EXPECT_EQ(op.find("8").area.left, column.left) << "it is there already";
+}
+
+TEST(GalleryOperation, TheListIsChosenFromByFingerAndByKeys)
+{
+    Operator op;
+    op.turn_to("list");
+    const auto expect_chosen = [&](const std::string& name) {
+        EXPECT_EQ(op.count([&](const Operator::Shown& shown) { return shown.text == name; }), 2U) << "beside the list";
+    };
+    expect_chosen("ISO 03");
+    op.touch("ISO 02");
+    expect_chosen("ISO 02");
+    op.use(Operator::item_up);
+    expect_chosen("ISO 015");
+    op.use(Operator::item_up);
+    expect_chosen("ISO 015");
+    for (int i = 0; i < 6; ++i)
+        op.use(Operator::item_down);
+    expect_chosen("ISO 06");
+    op.use(Operator::item_down);
+    expect_chosen("ISO 06");
 }
 
 } // namespace

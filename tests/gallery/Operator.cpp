@@ -168,10 +168,15 @@ std::vector<Shown> Operator::screen() const
     return all;
 }
 
-bool Operator::sees(const std::string& text) const
+std::size_t Operator::count(const std::function<bool(const Shown&)>& is_meant) const
 {
     const std::vector<Shown> all = screen();
-    return std::any_of(all.begin(), all.end(), [&](const Shown& shown) { return shown.text == text; });
+    return static_cast<std::size_t>(std::count_if(all.begin(), all.end(), is_meant));
+}
+
+bool Operator::sees(const std::string& text) const
+{
+    return count([&](const Shown& shown) { return shown.text == text; }) != 0;
 }
 
 Shown Operator::find(const std::string& text) const
@@ -184,17 +189,13 @@ Shown Operator::find(const std::string& text) const
 
 bool Operator::sees_rectangle(const Area& area) const
 {
-    const std::vector<Shown> all = screen();
-    return std::any_of(all.begin(), all.end(),
-                       [&](const Shown& shown) { return shown.type == Object_type::rectangle && shown.area == area; });
+    return count([&](const Shown& shown) { return shown.type == Object_type::rectangle && shown.area == area; }) != 0;
 }
 
 std::size_t Operator::pictures(int width) const
 {
-    const std::vector<Shown> all = screen();
-    return static_cast<std::size_t>(std::count_if(all.begin(), all.end(), [&](const Shown& shown) {
-        return shown.type == Object_type::picture_graphic && shown.area.width() == width;
-    }));
+    return count(
+        [&](const Shown& shown) { return shown.type == Object_type::picture_graphic && shown.area.width() == width; });
 }
 
 void Operator::deliver()
@@ -208,5 +209,6 @@ void Operator::deliver()
 Iso::Object_id Operator::id_of(Key key) const
 {
     const auto cells = link.terminal.active_soft_key_mask().items();
-    return key < cells.size() ? cells[key].id : Iso::null_id;
+    const terminal::Object_pool& pool = link.terminal.pool();
+    return key < cells.size() ? terminal::id_of(terminal::shown(pool, pool.find(cells[key].id))) : Iso::null_id;
 }

@@ -5,7 +5,9 @@
 #include "apps/gallery/Gallery.h"
 #include "terminal/Area.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,8 +15,29 @@
 class Operator
 {
   public:
-    /// Soft keys by their cells: of the number pages, of the buttons, of the covers.
-    enum Key { units = 0, up, down, all_off = 0, check = 0, toggle, button, label, panel, everything };
+    // Soft keys by their cells, page by page.
+    enum Key {
+        units = 0,
+        up,
+        down,
+        all_off = 0,
+        check = 0,
+        toggle,
+        button,
+        label,
+        panel,
+        everything,
+        deeper = 0,
+        back,
+        scroll_up = 0,
+        scroll_down,
+        scroll_left,
+        scroll_right,
+        rows,
+        jump,
+        item_up = 0,
+        item_down
+    };
 
     /// A text or a number as the terminal shows it, or an object without text: a rectangle, a picture.
     struct Shown
@@ -52,8 +75,11 @@ class Operator
     /// The one that shows this text. Throws std::out_of_range if there is none.
     Shown find(const std::string& text) const;
     bool sees_rectangle(const terminal::Area& area) const;
+    std::size_t count(const std::function<bool(const Shown&)>& is_meant) const;
     /// How many pictures of that width are shown.
     std::size_t pictures(int width) const;
+    /// Whether there is a soft key in that cell.
+    bool has(Key key) const { return id_of(key) != Iso::null_id; }
 
     apps::Loopback_link link;
     gallery::Gallery gallery;
