@@ -2,6 +2,8 @@
 
 #include "vtui/comp/widgets/Scroll_parts.h"
 
+#include <atomic>
+
 namespace VT::Comp {
 
 namespace {
@@ -81,6 +83,7 @@ void Scroll_horizontal_widget::scroll_to_show(short x, unsigned short width, boo
     const unsigned short content = content_width();
     const std::int16_t& offset = placements.placements[content_child].x;
     while (x + offset < 0 || x + width + offset > visible) {
+        std::atomic_signal_fence(std::memory_order_acq_rel); // no compiler may take for granted that this ends
         move_to(x + offset < 0 ? new_location_left(visible, content, offset)
                                : new_location_right(visible, content, offset));
         quiet = false;
