@@ -69,6 +69,25 @@ TEST_F(CustomSelectSelection, IgnoresAllButAReleaseAltogether)
     EXPECT_TRUE(pool.news().empty());
 }
 
+TEST_F(CustomSelectSelection, KeepsWhoseTheLastButtonWasWhenTheApplicationSelects)
+{
+    go_live();
+    release(7);
+    for (const bool ours : {true, false}) {
+        list.last_was_ours = ours;
+        list.set_selected(7);
+        EXPECT_EQ(list.was_last_button(), ours) << "selected already";
+        list.set_selected(3);
+        EXPECT_EQ(list.was_last_button(), ours);
+        list.select_up();
+        EXPECT_EQ(list.was_last_button(), ours);
+        list.select_down();
+        EXPECT_EQ(list.was_last_button(), ours);
+        list.set_size(200, ours ? 30 : 31);
+        EXPECT_EQ(list.was_last_button(), ours);
+    }
+}
+
 TEST_F(CustomSelectSelection, SelectsAHiddenButtonThatIsReleased)
 {
     go_live();
@@ -183,6 +202,18 @@ TEST_F(CustomSelectSelection, StopsAboveTheFirstHiddenButton)
     expect_selected(4);
     EXPECT_TRUE(pool.news().empty());
     list.items[6].set_hidden(false);
+    list.select_down();
+    expect_selected(4);
+    list.items[5].set_hidden(false);
+    list.select_down();
+    expect_selected(5);
+}
+
+TEST_F(CustomSelectSelection, MovesDownFromAHiddenButtonAsFromAnyOther)
+{
+    list.set_selected(4);
+    list.items[4].set_hidden(true);
+    list.items[5].set_hidden(true);
     list.select_down();
     expect_selected(4);
     list.items[5].set_hidden(false);

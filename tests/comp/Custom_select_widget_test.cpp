@@ -75,6 +75,11 @@ TEST_F(CustomSelectWidget, IsPlainAndAList)
     EXPECT_TRUE((std::is_convertible_v<Select*, VT::Comp::Custom_list_widget<100, 2>*>));
 }
 
+TEST_F(CustomSelectWidget, NamesTheEventThatADerivedListMustNotHide)
+{
+    EXPECT_TRUE((std::is_same_v<Select::Handled_events, VT::Event_list<VT::Button_activation_event>>));
+}
+
 TEST_F(CustomSelectWidget, StacksButtonsWithASeparatorUnderEach)
 {
     list.set_size(200, 30);

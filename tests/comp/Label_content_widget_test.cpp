@@ -136,6 +136,19 @@ TEST_F(LabelContentWidget, MovesNothingUntilItIsLaidOut)
     expect_children({&label, &content}, {10, 15}, {40, 0});
 }
 
+TEST_F(LabelContentWidget, WritesNothingOutUntilItIsLaidOut)
+{
+    widget.set_size({100, 40});
+    widget.set_layout();
+    widget.placements.placements[1].x = 3;
+    widget.set_size({50, 60});
+    EXPECT_EQ(placed(widget.placements, 1), Point(3, 15));
+    EXPECT_EQ(written(widget.placements, 1), Point(10, 15));
+    Label_content_widget empty(background, {nullptr, nullptr});
+    empty.set_size({100, 40});
+    EXPECT_EQ(size_of(empty.container), Dimension(100, 40)) << "an item may come later";
+}
+
 TEST_F(LabelContentWidget, LaysOutWhatIsInItsItem)
 {
     widget.set_size({100, 40});

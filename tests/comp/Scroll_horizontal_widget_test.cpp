@@ -223,6 +223,29 @@ TEST_F(ScrollHorizontalWidget, IgnoresAllButTheReleaseOfAKeyOfItsOwn)
     EXPECT_TRUE(pool.news().empty());
 }
 
+TEST_F(ScrollHorizontalWidget, WithoutIdsTakesTheNullIdForItsLeftKey)
+{
+    activate(widget, Activation::released, VT::VT_obj::NULL_ID);
+    expect_offset(0, 0);
+    show_span(-100, 100, 10, true);
+    activate(widget, Activation::released, VT::VT_obj::NULL_ID);
+    expect_offset(-50, 16);
+}
+
+TEST_F(ScrollHorizontalWidget, KeepsHowFarDownContentAndIndicatorLie)
+{
+    widget.placements.placements[0].y = 7;
+    widget.placements.placements[2].y = 63;
+    widget.scroll_right();
+    expect_places(parts, {-50, 7}, {0, 60}, {16, 63});
+    widget.update_content_size();
+    expect_places(parts, {0, 7}, {0, 60}, {0, 63});
+    widget.scroll_to_show(180, 30, true);
+    expect_places(parts, {-150, 7}, {0, 60}, {50, 63});
+    widget.scroll_left();
+    expect_places(parts, {-100, 7}, {0, 60}, {33, 63});
+}
+
 TEST_F(ScrollHorizontalWidget, FollowsContentThatGrowsAndShrinksInALivePool)
 {
     show(80);

@@ -297,15 +297,30 @@ TEST_F(ScrollWidget, SendsTheIndicatorOnceWhereThereIsNoBar)
     EXPECT_EQ(pool.news(), (Messages{content_at(0), indicator_at(0)}));
 }
 
-TEST_F(ScrollWidget, KeepsTheAcrossOfItsContent)
+TEST_F(ScrollWidget, KeepsTheAcrossOfContentAndIndicator)
 {
     go_live();
     widget.placements.placements[0].x = 7;
+    widget.placements.placements[2].x = 190;
     widget.scroll_down();
+    const Bytes indicator_down = child_position(container_id, indicator_id, 190, 20);
+    EXPECT_EQ(pool.news(),
+              (Messages{child_position(container_id, content_id, 7, -50), indicator_down, indicator_down}));
     widget.update_content_size();
-    const Messages sent = pool.news();
-    EXPECT_EQ(sent.front(), child_position(container_id, content_id, 7, -50));
-    EXPECT_EQ(sent.back(), child_position(container_id, content_id, 7, 0));
+    EXPECT_EQ(pool.news(), keys_shown() + Messages({child_position(container_id, indicator_id, 190, 0),
+                                                    child_position(container_id, content_id, 7, 0)}));
+}
+
+TEST_F(ScrollWidget, PutsAnotherContentAcrossWhereTheOneBeforeLay)
+{
+    go_live();
+    widget.placements.placements[0].x = 7;
+    widget.set_content(&other);
+    EXPECT_EQ(placed(widget.placements, 0), Point(7, 0));
+    EXPECT_EQ(written(widget.placements, 0), Point(7, 0));
+    EXPECT_EQ(pool.uploaded.size(), 1U);
+    widget.set_content(&other);
+    EXPECT_EQ(pool.uploaded.size(), 1U) << "it lies there already";
 }
 
 TEST_F(ScrollWidget, IgnoresAllButTheReleaseOfAKeyOfItsOwn)
@@ -320,6 +335,15 @@ TEST_F(ScrollWidget, IgnoresAllButTheReleaseOfAKeyOfItsOwn)
         activate(widget, Activation::released, id);
     expect_offset(-50, 0);
     EXPECT_TRUE(pool.news().empty());
+}
+
+TEST_F(ScrollWidget, WithoutIdsTakesTheNullIdForItsUpKey)
+{
+    activate(widget, Activation::released, VT::VT_obj::NULL_ID);
+    expect_offset(0, 0);
+    widget.placements.placements[0].y = -100;
+    activate(widget, Activation::released, VT::VT_obj::NULL_ID);
+    expect_offset(-50, 20);
 }
 
 TEST_F(ScrollWidget, FollowsContentThatGrowsAndShrinksInALivePool)
@@ -393,16 +417,27 @@ TEST_F(ScrollWidget, SendsAValueForEachPointerThatHasAnId)
     EXPECT_EQ(widget.up_key_pointer.value, VT::VT_obj::NULL_ID);
 }
 
-TEST_F(ScrollWidget, MovesNothingInAListWithoutAnIdButWhenItScrolls)
+TEST_F(ScrollWidget, MovesOnlyItsIndicatorInAListWithoutAnIdUntilItScrolls)
 {
     list_children(widget.container);
-    widget.container.objects[0].y = std::int16_t{5};
+    VT::Attribute_object_placement* const records = widget.container.objects;
+    records[0].y = std::int16_t{5};
+    records[2].y = std::int16_t{9};
     widget.update_content_size();
     EXPECT_EQ(written(widget.placements, 0), Point(0, 5));
+    EXPECT_EQ(written(widget.placements, 2), Point(180, 0));
     widget.set_content(&other);
     EXPECT_EQ(written(widget.placements, 0), Point(0, 5));
     widget.scroll_down();
     EXPECT_EQ(written(widget.placements, 0), Point(0, -50));
+    EXPECT_EQ(written(widget.placements, 2), Point(180, 12));
+
+    resize(other, {180, 100});
+    records[2].y = std::int16_t{9};
+    widget.update_content_size();
+    EXPECT_EQ(written(widget.placements, 2), Point(180, 9)) << "without a bar";
+    widget.scroll_down();
+    EXPECT_EQ(written(widget.placements, 2), Point(180, 12)) << "where it was";
 }
 
 TEST_F(ScrollWidget, SendsNothingBeforeThePoolIsLive)

@@ -99,12 +99,13 @@ TEST_F(TitleWidget, InsetsTheTextByTheHeightOfItsFont)
 
 TEST_F(TitleWidget, DriftsBy10PixelsWithEverySize)
 {
-    expect_layout({200, 30}, {168, 26}, {16, 2}, {0, -10});
-    expect_layout({200, 30}, {168, 26}, {16, 2}, {0, -20});
-    expect_layout({100, 50}, {68, 46}, {16, 2}, {0, -30});
+    title.placements.placements[0].x = 3;
+    expect_layout({200, 30}, {168, 26}, {16, 2}, {3, -10});
+    expect_layout({200, 30}, {168, 26}, {16, 2}, {3, -20});
+    expect_layout({100, 50}, {68, 46}, {16, 2}, {3, -30});
     title.set_text(&seeder.variable);
     title.set_hidden(true);
-    EXPECT_EQ(placed(title.placements, 0), Point(0, -30)) << "with a size only";
+    EXPECT_EQ(placed(title.placements, 0), Point(3, -30)) << "with a size only";
 }
 
 TEST_F(TitleWidget, DriftsFromTheTopOf16BitsToTheirBottom)

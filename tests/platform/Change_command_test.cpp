@@ -63,9 +63,13 @@ TEST_F(ChangeCommand, SendsTheContainerAgainToMoveAChildThatItHoldsTwice)
     EXPECT_EQ(children[2].y, 6);
     EXPECT_EQ(children[0].x, 0) << "the other place of the same child";
 
+    ASSERT_FALSE(object.is_changed());
+    object.set_child_location(2, 5, 6);
+    EXPECT_EQ(pool.uploaded.size(), 2U) << "also to where it is";
+
     object.set_child_location(1, 5, 6);
     EXPECT_EQ(pool.sent.size(), 1U) << "the child that it holds once";
-    EXPECT_EQ(pool.uploaded.size(), 1U);
+    EXPECT_EQ(pool.uploaded.size(), 2U);
 }
 
 TEST_F(ChangeCommand, IgnoresAChildBeyondTheList)

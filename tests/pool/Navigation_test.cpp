@@ -1,9 +1,11 @@
-// Scroll widgets in a live pool: the releases of their keys that come in and what goes out.
+// Scroll widgets and a selection list in a live pool: the releases of their keys and buttons that come in and what goes
+// out.
 
 #include "tests/Allocations.h"
 #include "tests/pool/Fake_terminal.h"
 #include "tests/pool/Screen.h"
 #include "vtui/comp/Connection_elements.h"
+#include "vtui/comp/widgets/Custom_select_widget.h"
 #include "vtui/comp/widgets/Scroll_horizontal_widget.h"
 #include "vtui/comp/widgets/Scroll_widget.h"
 
@@ -262,6 +264,38 @@ TEST_F(ScrollRoutes, ScrollInAPoolThatWasScaled)
     activate(list.down_key, released);
     EXPECT_EQ(terminal.take_sent(), (Messages{list_child(long_content, 0, -25), list_child(list.indicator, 90, 10),
                                               list_child(list.indicator, 90, 10)}));
+}
+
+TEST(SelectRoute, LeadsTheReleaseOfAButtonToItsList)
+{
+    Screen screen;
+    C::Connection_elements style;
+    C::Custom_select_widget<50, 2> list(style);
+    screen.mask.add(*list.root(), 0, 0);
+    screen.pool.route(list);
+    list.set_size(200, 30);
+    list.container.height = std::uint16_t{50 * 35};
+    Fake_terminal terminal;
+    const VT::Result result = screen.pool.load(terminal);
+    ASSERT_TRUE(result) << result.text();
+    terminal.take_sent();
+
+    say(screen.pool, frame(0x01, released, w(list.items[7].button.get_id()), w(screen.mask.get_id()), 1));
+    const auto value = [](const C::Toggle_button_widget& item, const VT::VT_obj& look) {
+        return frame(0xA8, w(item.state_pointer.get_id()), 0xFF, d(look.get_id()));
+    };
+    Messages values{value(list.items[7], style.rect_bevel_dark)};
+    for (const C::Toggle_button_widget& item : list.items)
+        if (&item != &list.items[7])
+            values.push_back(value(item, style.rect_17_patterned));
+    EXPECT_EQ(terminal.take_sent(), values);
+    EXPECT_EQ(list.get_selected_item(), 7);
+    EXPECT_TRUE(list.was_last_button());
+
+    for (const int activation : {pressed, held, aborted})
+        say(screen.pool, frame(0x01, activation, w(list.items[3].button.get_id()), w(screen.mask.get_id()), 1));
+    EXPECT_TRUE(terminal.take_sent().empty());
+    EXPECT_TRUE(screen.pool.take_problems().empty());
 }
 
 } // namespace
