@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <type_traits>
 
 /// Doubles made integers, for every double, on every machine as the controllers' hardware does it. What no integer of
 /// the type can hold becomes the hardware's mark for it: the lowest number of 32 or 64 bits. Fractions are cut off;
@@ -37,6 +38,27 @@ constexpr std::uint64_t to_uint64(double value)
 inline std::int32_t round_to_int32(double value) { return to_int32(std::rint(value)); }
 inline std::uint32_t round_to_uint32(double value) { return to_uint32(std::rint(value)); }
 inline std::int64_t round_to_int64(double value) { return to_int64(std::rint(value)); }
+
+/// A number as a variable of type T takes it: rounded to the nearest integer, halves to the even one. The types below
+/// 32 bits keep the low bits of a signed 32-bit integer; a bool says whether it is not 0, and NaN is not. Floating
+/// types round as always.
+template <typename T>
+T to_number(double value)
+{
+    static_assert(std::is_arithmetic_v<T>);
+    if constexpr (std::is_same_v<T, bool>)
+        return std::rint(value) != 0;
+    else if constexpr (std::is_floating_point_v<T>)
+        return static_cast<T>(value);
+    else if constexpr (std::is_same_v<T, unsigned long long>)
+        return to_uint64(std::rint(value));
+    else if constexpr (std::is_same_v<T, long long>)
+        return round_to_int64(value);
+    else if constexpr (std::is_same_v<T, unsigned int>)
+        return round_to_uint32(value);
+    else
+        return static_cast<T>(round_to_int32(value));
+}
 
 /// The lowest number has no positive counterpart and stays what it is.
 constexpr std::int32_t magnitude(std::int32_t value)

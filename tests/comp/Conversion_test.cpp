@@ -5,6 +5,7 @@
 #include <emmintrin.h>
 
 #include <cmath>
+#include <initializer_list>
 #include <limits>
 
 namespace {
@@ -308,6 +309,56 @@ TEST(Conversion, TakesTheMagnitudeOfAllButTheLowestNumber)
     EXPECT_EQ(Conversion::magnitude(2147483647), 2147483647);
     EXPECT_EQ(Conversion::magnitude(-2147483647), 2147483647);
     EXPECT_EQ(Conversion::magnitude(lowest_32), lowest_32);
+}
+
+template <typename T>
+void expect_numbers(std::initializer_list<Case<T>> cases)
+{
+    for (const auto& [value, expected] : cases)
+        EXPECT_EQ(Conversion::to_number<T>(value), expected) << std::hexfloat << value;
+}
+
+TEST(Conversion, ToSmallNumbersKeepsTheLowBits)
+{
+    expect_numbers<unsigned char>({{300.4, 44}, {-1, 255}, {2.5, 2}, {3.5, 4}, {255.5, 0}, {0x1p31, 0}, {nan, 0}});
+    expect_numbers<signed char>({{127.4, 127}, {127.5, -128}, {300.4, 44}, {-129, 127}, {infinity, 0}});
+    expect_numbers<unsigned short>({{65536.2, 0}, {-1, 65535}, {65535.4, 65535}, {0x1p31 - 1, 65535}, {0x1p31, 0}});
+    expect_numbers<short>({{2.5, 2}, {32767.5, -32768}, {-32769, 32767}, {-0.5, 0}, {nan, 0}});
+}
+
+TEST(Conversion, ToNumbersOf32BitsRoundsHalvesToEven)
+{
+    expect_numbers<int>(
+        {{2.5, 2}, {-2.5, -2}, {3.5, 4}, {2147483647.4, 2147483647}, {0x1p31, lowest_32}, {nan, lowest_32}});
+    expect_numbers<unsigned int>(
+        {{2.5, 2}, {0x1p31, 0x80000000}, {4294967295.4, 0xFFFFFFFF}, {0x1p32, 0}, {-1, 0xFFFFFFFF}, {nan, 0}});
+}
+
+TEST(Conversion, ToNumbersOf64BitsKeepsTheTopBitOfTheUnsignedOnes)
+{
+    expect_numbers<long long>(
+        {{2.5, 2}, {-3.5, -4}, {0x1p62, 0x4000000000000000}, {0x1p63, lowest_64}, {nan, lowest_64}});
+    expect_numbers<unsigned long long>(
+        {{2.5, 2}, {0x1p63, top_bit}, {below(0x1p64), 0xFFFFFFFFFFFFF800}, {0x1p64, 0}, {-1, ~0ULL}});
+}
+
+TEST(Conversion, ToTruthAsksWhetherTheRoundedNumberIsNotZero)
+{
+    expect_numbers<bool>({{0.4, false},
+                          {0.5, false},
+                          {0.6, true},
+                          {-0.6, true},
+                          {-0.4, false},
+                          {65536.2, true},
+                          {0x1p64, true},
+                          {infinity, true},
+                          {nan, true}});
+}
+
+TEST(Conversion, ToFloatingNumbersDoesNotRoundToIntegers)
+{
+    expect_numbers<double>({{2.5, 2.5}, {0.1, 0.1}, {huge, huge}});
+    expect_numbers<float>({{2.5, 2.5F}, {0.1, 0.1F}, {16777217.0, 16777216.0F}, {tiny, 0.0F}});
 }
 
 } // namespace
