@@ -90,8 +90,8 @@ class VTUI_EXPORT Pool final : public vtui_pool
 
     /// Gives `component` the events that it has a handle_event() for: those that name a control inside it (an object in
     /// its memory; of components inside each other the innermost that handles such events), announced units, and what
-    /// ask_hardware() hears. Also those of `control`, which it keeps elsewhere; of much memory that it keeps elsewhere,
-    /// as a vector's, tell by an outlying_controls() (see Routes). The component stays the application's;
+    /// ask_hardware() hears. Also those of `control`, which it keeps elsewhere; of many, as in a vector, it tells by an
+    /// outlying_controls() (see Routes). The component stays the application's;
     /// no event is delivered to it after unroute(), which comes before it is destroyed if events may come later.
     ///
     /// The next message after that makes the table of routes anew, as prepare() does: it allocates and takes about as

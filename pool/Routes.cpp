@@ -74,8 +74,10 @@ void Routes::rebuild(const Object_table& objects)
         if (routes[i].component)
             order.push_back(i);
     std::stable_sort(order.begin(), order.end(), [this](std::uint32_t a, std::uint32_t b) {
-        return routes[a].begin != routes[b].begin ? lies_before(routes[a].begin, routes[b].begin)
-                                                  : routes[a].size > routes[b].size;
+        const Route &left = routes[a], &right = routes[b];
+        if (left.begin != right.begin)
+            return lies_before(left.begin, right.begin);
+        return left.size != right.size ? left.size > right.size : left.component_size > right.component_size;
     });
 
     route_of.assign(objects.ids(), nobody);

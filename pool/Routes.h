@@ -25,8 +25,10 @@ using Event = std::variant<Soft_key_activation_event*, Button_activation_event*,
                            Units_man*>;
 
 /// Which component an event goes to: of those in whose memory the object lies which the event names, the innermost that
-/// handles such events. To a component's memory belongs what its outlying_controls() says, if it has that: the first
-/// address and the size of memory that it keeps elsewhere. Components are not owned.
+/// handles such events. To a component's memory belongs what its outlying_controls() says, if it has that: the address
+/// and the size in bytes of memory that it keeps elsewhere. It is asked once, by add(): what lies there must not move
+/// or grow afterwards. Of two components that name the same memory the smaller one is the inner one. Components are not
+/// owned.
 class VTUI_EXPORT Routes
 {
   public:
@@ -80,6 +82,7 @@ class VTUI_EXPORT Routes
     struct Route
     {
         void* component; ///< null: removed
+        std::size_t component_size;
         const void* begin;
         std::size_t size;
         bool whole;           ///< the component itself, not controls elsewhere
@@ -125,7 +128,7 @@ class VTUI_EXPORT Routes
     struct Has_outlying_controls : std::false_type
     {};
     template <class Component>
-    struct Has_outlying_controls<Component, std::void_t<decltype(std::declval<const Component&>().outlying_controls())>>
+    struct Has_outlying_controls<Component, std::void_t<decltype(std::declval<Component&>().outlying_controls())>>
         : std::true_type
     {};
 
@@ -151,7 +154,8 @@ class VTUI_EXPORT Routes
     template <class Component>
     void add_memory(Component& component, const void* begin, std::size_t size, bool whole)
     {
-        add({std::addressof(component), begin, size, whole, handled<Component>(every_event), &hand_over<Component>});
+        add({std::addressof(component), sizeof component, begin, size, whole, handled<Component>(every_event),
+             &hand_over<Component>});
     }
     void add(const Route& route);
     bool remove(const void* component, Hand_over hand_over_);

@@ -113,6 +113,37 @@ TEST(PoolRoutes, LeadFromControlsInMemoryThatTheComponentKeepsElsewhere)
     EXPECT_EQ(page.list.take_heard(), nothing);
 }
 
+TEST(PoolRoutes, LeadToTheSmallerOfTwoThatNameTheSameMemoryElsewhere)
+{
+    struct List : Listener
+    {
+        std::pair<const void*, std::size_t> outlying_controls()
+        {
+            return {controls.data(), controls.size() * sizeof(Control)};
+        }
+        std::vector<Control> controls{2};
+    };
+    struct Page : Listener
+    {
+        auto outlying_controls() { return list.outlying_controls(); }
+        List list;
+    };
+    for (const bool page_first : {false, true}) {
+        Page page;
+        std::vector<Control>& controls = page.list.controls;
+        Screen screen;
+        prepare(screen, controls[0], controls[1]);
+        if (page_first)
+            screen.pool.route(page);
+        screen.pool.route(page.list);
+        if (!page_first)
+            screen.pool.route(page);
+        release(screen.pool, controls[1]);
+        EXPECT_EQ(page.list.take_heard(), Lines{released(controls[1])});
+        EXPECT_EQ(page.take_heard(), nothing);
+    }
+}
+
 TEST(PoolRoutes, LeadToAComponentThatIsAControlItself)
 {
     struct Own_button : VT::VT_obj

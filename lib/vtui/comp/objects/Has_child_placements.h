@@ -72,7 +72,7 @@ template <template <typename> class Array_type, std::size_t N>
 class Child_placements_and_detached : public Child_placements_array<Array_type>
 {
   public:
-    std::array<VT::VT_obj*, N> detached_objects{}; ///< not owned
+    std::array<VT::VT_obj*, N> detached_objects{}; ///< not owned; from the front on: the pool stops at the first null
 
     VT::VT_obj* detached(std::size_t i) override { return i < N ? detached_objects[i] : nullptr; }
 };

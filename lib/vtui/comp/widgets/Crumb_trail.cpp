@@ -79,6 +79,7 @@ void Crumb_trail::set_size(Dimension size)
     const auto cell = static_cast<std::uint16_t>(size.width / most_crumbs);
     const auto left = [cell](unsigned slot) { return static_cast<int>(slot) * cell; };
 
+    // Again: a specification or a scaled pool may have changed them.
     resize(frame_horizontal_line, {frame_line_length, 1});
     resize(frame_vertical_line, {1, frame_line_length});
     for (Picture_graphic_obj* picture :

@@ -23,7 +23,8 @@ namespace VT::Comp {
 /// to the pool: `pool.add(crumb)`. A live pool notes a problem about a crumb that it does not have, and shows nothing.
 ///
 /// The lines of frame and stem have no line attributes on purpose: terminals draw the corners only, and the pool warns,
-/// unless the application links some: `frame_vertical_line.set_line(&style.line_black_c)`, before the pool is prepared.
+/// unless the application calls set_line() of frame_vertical_line, frame_horizontal_line and select_line before the
+/// pool is prepared.
 class VTUI_EXPORT Crumb_trail
 {
   public:
@@ -36,7 +37,8 @@ class VTUI_EXPORT Crumb_trail
 
     Container_obj* root() { return &container; }
 
-    /// Pixels, for before the pool is built; below 72 × 9 some sides wrap around. In a live pool the chevron is
+    /// Pixels, for before the pool is built: at least width / 4 - 9 high, or the frame is cut, and 136 wide, or its
+    /// corners overlap; below 72 × 9 some sides wrap around. In a live pool the chevron is
     /// uploaded if it has changed, and nothing else is sent: follow with root()->upload(true).
     void set_size(Dimension size);
 

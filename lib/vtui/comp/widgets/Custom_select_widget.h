@@ -26,14 +26,15 @@ class VTUI_EXPORT List_separator
 /// buttons (Filler, or `items[i].set_content()`) and hides the others.
 ///
 /// Route the list; or, to know when the operator has selected, route a class of the application's own that hands it the
-/// events, asks was_last_button() then, and has an outlying_controls() that returns the list's.
+/// events, asks was_last_button() after a release, and has an outlying_controls() that returns the list's.
 template <unsigned ITEMS, unsigned GAP>
 class VTUI_EXPORT Custom_select_widget : public List_separator, public Custom_list_widget<2 * ITEMS, GAP>
 {
   public:
     using List = Custom_list_widget<2 * ITEMS, GAP>;
 
-    /// What the list stacks: each of the buttons with the separator below it.
+    /// What the list stacks: each of the buttons with the separator below it. For the list itself, which has no gaps:
+    /// `buttons` is ITEMS.
     struct Items
     {
         Items(unsigned char buttons, Line_obj& line, std::vector<Toggle_button_widget>& all);
@@ -70,7 +71,7 @@ class VTUI_EXPORT Custom_select_widget : public List_separator, public Custom_li
     /// it one.
     ///
     ///     list.set_size(200, 35);
-    ///     list.container.height = number_of_items * 40;
+    ///     list.container.height = static_cast<std::uint16_t>(number_of_items * 40); // each 35 + 5
     ///     list.root()->upload(true); // does nothing before the pool is live
     ///
     /// In a Scroll_widget its update_content_size() comes last.
@@ -80,7 +81,7 @@ class VTUI_EXPORT Custom_select_widget : public List_separator, public Custom_li
 
     /// Selects the button that is released, if it is one of the list's: a message for every button of a live pool.
     void handle_event(Button_activation_event& event);
-    /// True if the button that was released last was one of the list's.
+    /// True if the button that was released last was one of the list's. It keeps its answer until the next release.
     bool was_last_button() const { return last_was_ours; }
 
     /// Switches button `index` on, from 0, and the others off: a message for every button of a live pool. One that is
@@ -88,12 +89,12 @@ class VTUI_EXPORT Custom_select_widget : public List_separator, public Custom_li
     void set_selected(unsigned char index);
     /// From 0. At first that is 0, though no button is on yet.
     unsigned char get_selected_item() const { return selected; }
-    /// Selects the item above, if there is one.
+    /// Selects the item above, if there is one, also a hidden one.
     void select_up();
     /// Selects the item below, if there is one and it is not hidden.
     void select_down();
 
-    /// The buttons lie outside the list's own memory: here events are routed from, too.
+    /// The buttons lie in the vector, outside the list itself: the pool has to be told.
     std::pair<const void*, std::size_t> outlying_controls() const
     {
         return {items.data(), items.size() * sizeof(Toggle_button_widget)};

@@ -21,7 +21,7 @@ class VTUI_EXPORT Label_content_widget
 {
   public:
     /// The background starts in the box's top left corner and is drawn below the item; it stays the application's. Not
-    /// laid out yet.
+    /// laid out yet: until then label and content may be null.
     Label_content_widget(VT::VT_obj& background, Label_content_item new_item);
 
     /// Pixels. Moves nothing: refresh_layout() does. Sends nothing.
@@ -36,7 +36,7 @@ class VTUI_EXPORT Label_content_widget
     /// comes when the pool is live must be in the pool by then: `pool.add()`.
     void set(Label_content_item new_item);
 
-    /// Pixels: the square without a margin of 3. A box with a side below 3 wraps around.
+    /// Pixels: the square, 3 less each way. A box with a side below 3 wraps around.
     Dimension get_label_size() const;
     /// Pixels: the strip.
     Dimension get_content_size() const;

@@ -13,17 +13,18 @@
 
 namespace VT::Comp {
 
-/// A window on a content that may be wider, with a scroll bar over its bottom edge and two soft keys that move the
-/// content by half the window. The application calls set_size() and then update_content_size(), puts root() in a mask
-/// and get_left_key() and get_right_key() in its soft key mask, and routes the widget. Both keys show while the content
-/// overflows, wherever it is scrolled to. Content and faces stay the application's.
+/// A window on a content that may be wider, with a scroll bar that covers the content's bottom edge, and two soft keys
+/// that move the content by half the window. The application calls set_size() and then update_content_size(), puts
+/// root() in a mask and get_left_key() and get_right_key() in its soft key mask, and routes the widget. Both keys show
+/// while the content overflows, wherever it is scrolled to. Content and faces stay the application's.
 ///
 /// It sends no positions: scrolling and updating write out the placements and, in a live pool, upload the container,
 /// and with it the bar's sizes.
 class VTUI_EXPORT Scroll_horizontal_widget
 {
   public:
-    /// The style outlives the widget. The content must not be null, nor a face when the pool is prepared.
+    /// The style outlives the widget. The indicator is filled with the colour that line_black_c has now: set it first,
+    /// as a palette index. The content must not be null, nor a face when the pool is prepared.
     Scroll_horizontal_widget(Connection_elements& elements, VT::VT_obj* content, VT::VT_obj* left_face,
                              VT::VT_obj* right_face);
 
@@ -55,7 +56,8 @@ class VTUI_EXPORT Scroll_horizontal_widget
     static short new_location_left(unsigned short visible, unsigned short content, short current);
     static short new_location_right(unsigned short visible, unsigned short content, short current);
 
-    /// Fits the indicator to widths and offset; sends nothing. Content that does not overflow has no bar: the track
+    /// Fits the indicator to widths and offset; the track becomes `visible` pixels wide, the content stays where it is.
+    /// Sends nothing. Content that does not overflow has no bar: the track
     /// loses its height.
     void set_indicator(unsigned short content, unsigned short visible, short offset);
 
@@ -73,7 +75,7 @@ class VTUI_EXPORT Scroll_horizontal_widget
     Rectangle_obj track;
     Rectangle_obj indicator;
     Fill_attributes_obj indicator_fill{Connection_elements::with_fill_colour, 1};
-    // In the pool with the container. Their faces lie at the top left until a key is given its size.
+    // In the pool with the container. The application gives them size and colour; until then faces lie at the top left.
     Key_widget left_key;
     Key_widget right_key;
 

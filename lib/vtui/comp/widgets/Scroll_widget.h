@@ -15,17 +15,18 @@
 
 namespace VT::Comp {
 
-/// A window on a content that may be taller, with a scroll bar over its right edge and two soft keys that move the
-/// content by half the window. The application calls set_size() and then update_content_size(), puts root() in a mask
-/// and get_up_key() and get_down_key() in its soft key mask, and routes the widget. Both keys show while the content
-/// overflows, wherever it is scrolled to. Content and faces stay the application's.
+/// A window on a content that may be taller, with a scroll bar that covers the content's right edge, and two soft keys
+/// that move the content by half the window. The application calls set_size() and then update_content_size(), puts
+/// root() in a mask and get_up_key() and get_down_key() in its soft key mask, and routes the widget. Both keys show
+/// while the content overflows, wherever it is scrolled to. Content and faces stay the application's.
 ///
 /// It moves the children of the live pool by commands. The sizes of window and bar are not sent by themselves: in a
 /// live pool follow set_size(), update_content_size() and set_content() with root()->upload(true).
 class VTUI_EXPORT Scroll_widget
 {
   public:
-    /// The style outlives the widget. The content must not be null, nor a face when the pool is prepared.
+    /// The style outlives the widget. The indicator is filled with the colour that line_black_c has now: set it first,
+    /// as a palette index. The content must not be null, nor a face when the pool is prepared.
     Scroll_widget(Connection_elements& elements, VT::VT_obj* content, VT::VT_obj* up_face, VT::VT_obj* down_face);
     /// Shows a background of the style's until set_content(); that is as large as the mask, so it overflows.
     Scroll_widget(Connection_elements& elements, VT::VT_obj* up_face, VT::VT_obj* down_face);
@@ -63,7 +64,8 @@ class VTUI_EXPORT Scroll_widget
     static short new_location_up(unsigned short visible, unsigned short content, short current);
     static short new_location_down(unsigned short visible, unsigned short content, short current);
 
-    /// Fits the indicator to heights and offset and sends its position; content that does not overflow has no bar and
+    /// Fits the indicator to heights and offset and sends its position; the track becomes `visible` pixels high, the
+    /// content stays where it is. Content that does not overflow has no bar and
     /// sends nothing.
     void set_indicator(unsigned short content, unsigned short visible, short offset);
 
@@ -74,7 +76,7 @@ class VTUI_EXPORT Scroll_widget
     Rectangle_obj track;
     Rectangle_obj indicator;
     Fill_attributes_obj indicator_fill{Connection_elements::with_fill_colour, 1};
-    // In the pool with the container. Their faces lie at the top left until a key is given its size.
+    // In the pool with the container. The application gives them size and colour; until then faces lie at the top left.
     Key_widget up_key;
     Key_widget down_key;
 
