@@ -1,5 +1,6 @@
 #include "bench/Class_sizes.h"
 
+#include "nv_store/NV_number.h"
 #include "vtui/comp/Connection_elements.h"
 #include "vtui/comp/objects/Button_obj.h"
 #include "vtui/comp/objects/Container_obj.h"
@@ -14,6 +15,7 @@
 #include "vtui/comp/widgets/Border_widget.h"
 #include "vtui/comp/widgets/Bordered_number_widget.h"
 #include "vtui/comp/widgets/Button_background_widget.h"
+#include "vtui/comp/widgets/Cds_number_widget.h"
 #include "vtui/comp/widgets/Check_box_widget.h"
 #include "vtui/comp/widgets/Crumb_trail.h"
 #include "vtui/comp/widgets/Custom_select_widget.h"
@@ -23,6 +25,7 @@
 #include "vtui/comp/widgets/Key_button_combo_widget.h"
 #include "vtui/comp/widgets/Label_content_widget.h"
 #include "vtui/comp/widgets/Labelled_input_widget.h"
+#include "vtui/comp/widgets/Nv_number_widget.h"
 #include "vtui/comp/widgets/Placement_widget.h"
 #include "vtui/comp/widgets/Scroll_horizontal_widget.h"
 #include "vtui/comp/widgets/Scroll_widget.h"
@@ -34,6 +37,7 @@
 void print_class_sizes()
 {
     using namespace VT::Comp;
+    using Stored_number = NV_store::NV_number<double, Data_item::float64>;
     struct Row
     {
         const char* name;
@@ -62,7 +66,11 @@ void print_class_sizes()
         {"Label_content_widget", sizeof(Label_content_widget)},
         {"Number_widget", sizeof(Number_widget)},
         {"Number_widget::Specification", sizeof(Number_widget::Specification)},
+        {"Nv_number_widget<N>", sizeof(Nv_number_widget<Stored_number>)},
+        {"  its number", sizeof(Stored_number)},
+        {"  what the store keeps of it", sizeof(NV_store::Record)},
         {"Bordered_number_widget", sizeof(Bordered_number_widget)},
+        {"Cds_number_widget<double>", sizeof(Cds_number_widget<double>)},
         {"Labelled_input_widget<Number_widget>", sizeof(Labelled_input_widget<Number_widget>)},
         {"Button_widget", sizeof(Button_widget)},
         {"Button_background_widget", sizeof(Button_background_widget)},

@@ -6,10 +6,11 @@ include(CMakePackageConfigHelpers)
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
     BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig OUTPUT_VARIABLE prefix_from_pc)
 
-# vtui_install_library(package target MODULE name DESCRIPTION text [REQUIRES modules...] HEADERS folders...)
+# vtui_install_library(package target MODULE name DESCRIPTION text [REQUIRES modules...] [CFLAGS flags...]
+#                      HEADERS folders...)
 # One library of a package, the headers of those folders, and a pkg-config module of the library's own.
 function(vtui_install_library package target)
-    cmake_parse_arguments(arg "" "MODULE;DESCRIPTION" "REQUIRES;HEADERS" ${ARGN})
+    cmake_parse_arguments(arg "" "MODULE;DESCRIPTION" "REQUIRES;CFLAGS;HEADERS" ${ARGN})
     set(includes ${CMAKE_INSTALL_INCLUDEDIR}/${package})
     install(TARGETS ${target} EXPORT ${package}-targets INCLUDES DESTINATION ${includes})
     # These two serve a few of the sources only.
@@ -18,6 +19,7 @@ function(vtui_install_library package target)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
 
     list(JOIN arg_REQUIRES ", " arg_REQUIRES)
+    list(JOIN arg_CFLAGS " " arg_CFLAGS)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/module.pc.in ${PROJECT_BINARY_DIR}/${arg_MODULE}.pc @ONLY)
     install(FILES ${PROJECT_BINARY_DIR}/${arg_MODULE}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endfunction()
@@ -42,8 +44,9 @@ set(platform_module)
 if(NOT VTUI_PLATFORM_PACKAGE)
     set(platform_module vtui-platform)
     vtui_install_library(vtui-platform vtui_platform MODULE vtui-platform
-        DESCRIPTION "Object library and data stores under the screen components" HEADERS platform/)
-    vtui_install_package(vtui-platform)
+        DESCRIPTION "Object library and data stores under the screen components"
+        REQUIRES Qt5Core CFLAGS -fPIC HEADERS platform/) # as Qt wants whoever includes it to be compiled
+    vtui_install_package(vtui-platform Qt5Core)
 endif()
 vtui_install_library(vtui-comp lumqtvtui_comp MODULE vtui-comp
     DESCRIPTION "${PROJECT_DESCRIPTION}" REQUIRES ${platform_module} HEADERS lib/vtui util)

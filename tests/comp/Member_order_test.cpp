@@ -9,6 +9,7 @@
 #include "vtui/comp/widgets/Button_background_widget.h"
 #include "vtui/comp/widgets/Button_border_widget.h"
 #include "vtui/comp/widgets/Button_widget.h"
+#include "vtui/comp/widgets/Cds_number_widget.h"
 #include "vtui/comp/widgets/Check_box_widget.h"
 #include "vtui/comp/widgets/Crumb_trail.h"
 #include "vtui/comp/widgets/Custom_select_widget.h"
@@ -110,6 +111,17 @@ TEST(MemberOrder, OfTheStyleOfABorderedNumberWidget)
     const Bordered_number_widget::Style s;
     EXPECT_TRUE(ascend({&s.border_line, &s.border_fill, &s.number}));
     EXPECT_EQ(static_cast<const void*>(&s.border_line), &s);
+}
+
+TEST(MemberOrder, OfACdsNumberWidgetIsTheFieldThenTheBinding)
+{
+    double variable = 0;
+    CDS::Head head(variable);
+    const Cds_number_widget<double> w(head, variable, Number_widget::Style(), nullptr);
+    const Number_widget& field = w;
+    const CDS::Access<double, CDS::Virt_access>& binding = w;
+    EXPECT_EQ(static_cast<const void*>(&field), &w);
+    EXPECT_TRUE(ascend({&w.layout_origin, &binding, &w.access, &w.variable}));
 }
 
 TEST(MemberOrder, OfALabelledInputWidget)
