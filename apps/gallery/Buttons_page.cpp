@@ -130,7 +130,7 @@ void Buttons_page::show_combo()
     all_off.set_text(&words("All off"));
     all_off.icon_text.caption.set_font(&shared.title_font); // its face is dark, too
     all_off.set_size(area(width, height));
-    finish(all_off.soft_key);
+    dress(all_off.soft_key);
     mask.add(all_off.root(), at(x), at(switches_top));
     keys.add(all_off.get_soft_key());
     mask.set_soft_key_mask(&keys);

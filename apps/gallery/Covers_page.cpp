@@ -91,7 +91,7 @@ void Covers_page::build_panel()
     combo.set_size(combo_size);
     panel_toggle.set_size(toggle_size);
 
-    draw(panel_background, size, style.fill_white, style.line_black);
+    set_looks(panel_background, size, style.fill_white, style.line_black);
     panel_children.placements[0].ref = &panel_background;
     panel_children.placements[1] = {&combo.root(), at(5), at(4)};
     // At an even place, where the stipples of the cover and of a disabled button fall on the same pixels.

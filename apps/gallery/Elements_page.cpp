@@ -31,10 +31,10 @@ void Elements_page::show_placements()
     for (const Dimension size : {fitting, overhanging}) {
         for (const auto& [way, words] : ways) {
             Placed& shown = placed.emplace_back(way);
-            draw(shown.content, size, style.fill_39, style.line_black);
+            set_looks(shown.content, size, style.fill_39, style.line_black);
             shown.widget.set_content(&shown.content);
             shown.widget.set_size(area(width, height));
-            draw(shown.box, area(width, height), style.fill_white, style.line_none);
+            set_looks(shown.box, area(width, height), style.fill_white, style.line_none);
             mask.add(shown.box, at(x), at(top));
             mask.add(shown.widget.root(), at(x), at(top));
             add_caption(words, x, top + height, step, VT::Field_obj::middle);

@@ -31,11 +31,12 @@ Fields_page::Fields_page(Page_style& page_style)
     : Number_page("fields", "Sprayer", page_style), speed(shown_look(), km_per_hour, nullptr),
       flow(shown_look(), litres_per_minute, nullptr), pressure(shown_look(), bar, psi, nullptr),
       work_rate(shown_look(), hectares_per_hour, nullptr), worked(shown_look(), hectares, nullptr),
-      rate(&style.font_2, &words("Set rate"), setting_look(), litres_per_hectare, gallons_per_acre, nullptr),
-      boom_width(&style.font_2, &words("Boom width"), setting_look(), metres, feet, nullptr),
-      tank(&style.font_2, &words("Tank"), setting_look(), litres, nullptr),
-      lowest_pressure(&style.font_2, &words("Alarm below"), setting_look(), bar, psi, nullptr),
-      row_width(&style.font_2, &words("Row width"), setting_look(), hundredths, nullptr)
+      rate(&style.font_2, &words("Set rate"), input_look(style.rect_white), litres_per_hectare, gallons_per_acre,
+           nullptr),
+      boom_width(&style.font_2, &words("Boom width"), input_look(style.rect_white), metres, feet, nullptr),
+      tank(&style.font_2, &words("Tank"), input_look(style.rect_white), litres, nullptr),
+      lowest_pressure(&style.font_2, &words("Alarm below"), input_look(style.rect_white), bar, psi, nullptr),
+      row_width(&style.font_2, &words("Row width"), input_look(style.rect_white), hundredths, nullptr)
 {
     for (Shown* field : shown)
         field->init(&pool, nullptr);
@@ -61,17 +62,10 @@ Bordered_number_widget::Style Fields_page::shown_look() const
     return {&style.line_black, nullptr, look(Number_widget::centred_pair, style.rect_white)};
 }
 
-Number_widget::Style Fields_page::setting_look() const
-{
-    Number_widget::Style inputs = look(Number_widget::right_aligned, style.rect_white);
-    inputs.input = true;
-    return inputs;
-}
-
 void Fields_page::place()
 {
     constexpr std::array<const char*, 5> words{"Speed", "Flow", "Pressure", "Work rate", "Area done"};
-    draw(setting_frame, area(setting_width, setting_height), style.fill_white, style.line_black);
+    set_looks(setting_frame, area(setting_width, setting_height), style.fill_white, style.line_black);
     int y = top;
     for (std::size_t i = 0; i < words.size(); ++i) {
         add_caption(words[i], left, y, right - left, VT::Field_obj::left, &style.font_2);

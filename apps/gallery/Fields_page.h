@@ -26,7 +26,6 @@ class Fields_page final : public Number_page
     using Setting = VT::Comp::Labelled_input_widget<VT::Comp::Number_widget>;
 
     Shown::Style shown_look() const;
-    VT::Comp::Number_widget::Style setting_look() const;
     void place();
     void lay_out();
     /// What the sprayer does with these settings.

@@ -15,7 +15,7 @@ Key_face::Key_face(Page_style& shared, VT::VT_obj& content)
     resize(container, key_size);
 }
 
-void finish(Key_widget& key)
+void dress(Key_widget& key)
 {
     key.set_size(key_size);
     key.set_background_colour(silver);
@@ -25,7 +25,7 @@ Framed_key::Framed_key(Page_style& shared, VT::VT_obj& content, std::function<vo
     : face(shared, content), key(std::move(action))
 {
     key.set_content(&face.root());
-    finish(key);
+    dress(key);
     shared.pool.route(key);
 }
 

@@ -37,7 +37,7 @@ class Key_face
 };
 
 /// Gives a key that has its content the size of a cell and the colour of all keys.
-void finish(VT::Comp::Key_widget& key);
+void dress(VT::Comp::Key_widget& key);
 
 /// A soft key with a frame around what is in its middle.
 class Framed_key

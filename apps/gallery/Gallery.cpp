@@ -4,16 +4,30 @@
 
 namespace gallery {
 
-Gallery::Gallery(std::uint16_t mask_size)
-    : style(objects, mask_size), elements(style), layouts(style), fields(style), limits(style), buttons(style),
-      covers(style), trail(style), scroll(style), list(style), working_set("gallery")
+Gallery::Gallery(std::uint16_t mask_size, const std::string& settings_file)
+    : style(objects, mask_size), settings(settings_file), elements(style), layouts(style), fields(style), limits(style),
+      buttons(style), covers(style), trail(style), scroll(style), list(style), machine_page(style, sprayer),
+      settings_page(style, settings), working_set("gallery")
 {
     working_set.set_active_mask(elements.root());
-    for (VT::Mask_obj* page : {&layouts.root(), &fields.root(), &limits.root(), &buttons.root(), &covers.root(),
-                               &trail.root(), &scroll.root(), &list.root()})
+    for (VT::Mask_obj* page :
+         {&layouts.root(), &fields.root(), &limits.root(), &buttons.root(), &covers.root(), &trail.root(),
+          &scroll.root(), &list.root(), &machine_page.root(), &settings_page.root()})
         working_set.add_mask(*page);
     working_set.add_language("en");
     objects.add(working_set);
+}
+
+void Gallery::show(VT::Mask_obj& page)
+{
+    working_set.set_active_mask(page);
+    settings_page.set_visible(&page == &settings_page.root());
+}
+
+void Gallery::deliver()
+{
+    sprayer.store.deliver();
+    settings_page.waiter.deliver();
 }
 
 std::vector<Picture> Gallery::pictures()
@@ -29,9 +43,13 @@ std::vector<Picture> Gallery::pictures()
     add(elements, "", [] {});
     constexpr std::pair<const char*, Units_man::units_systems> systems[] = {
         {"", Units_man::metric}, {"-imperial", Units_man::imperial}, {"-us", Units_man::us}};
-    for (Page* page : {static_cast<Page*>(&layouts), static_cast<Page*>(&fields), static_cast<Page*>(&limits)})
+    for (Number_page* page :
+         std::initializer_list<Number_page*>{&layouts, &fields, &limits, &machine_page, &settings_page})
         for (const auto& [variant, system] : systems)
-            add(*page, variant, [this, system = system] { style.units.choose(system); });
+            add(*page, variant, [this, system = system] {
+                style.units.choose(system);
+                deliver();
+            });
     add(buttons, "", [] {});
     add(covers, "", [this] { covers.set_all_disabled(false); });
     add(covers, "-disabled", [this] { covers.set_all_disabled(true); });

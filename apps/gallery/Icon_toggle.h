@@ -8,7 +8,7 @@
 
 namespace gallery {
 
-/// The looks of a toggle button, as large as itself.
+/// The looks of a toggle button, as large as itself. A base, so that they exist before the button that is made of them.
 struct Toggle_looks
 {
     using Look = VT::Comp::Placement_widget;

@@ -11,13 +11,14 @@
 
 namespace gallery {
 
-/// Squares of 12, 24 and 48 pixels: run-length encoded, four bits a pixel.
+/// The data of one picture: run-length encoded, four bits a pixel; size in bytes.
 struct Bitmap
 {
     const std::uint8_t* data;
     std::size_t size;
 };
 
+/// Squares of 12, 24 and 48 pixels.
 extern const Bitmap icon_bitmaps[number_of_icons][3];
 
 /// The icons, twice as large from a mask of 480 pixels on. The pool takes in those that are shown.

@@ -59,7 +59,7 @@ void Layouts_page::add_column(Column& column, int x, int fields_width, VT::Strin
     const auto around = [](int length) { return static_cast<std::uint16_t>(length + 2 * line); };
 
     const Dimension size = area(fields_width, height);
-    draw(column.frame, {around(size.width), around(size.height)}, style.fill_white, style.line_black);
+    set_looks(column.frame, {around(size.width), around(size.height)}, style.fill_white, style.line_black);
     int y = top + caption_height;
     for (const Row& row : rows) {
         Number_widget& field =

@@ -38,15 +38,12 @@ void Limits_page::Field::handle_input_value(double v)
 
 Limits_page::Limits_page(Page_style& page_style) : Number_page("limits", "Limits", page_style)
 {
-    draw(box, area(width, height), style.fill_white, style.line_black);
-    Number_widget::Style inputs = look(Number_widget::right_aligned, box);
-    inputs.input = true;
-
+    set_looks(box, area(width, height), style.fill_white, style.line_black);
     int y = top;
     for (const Row& row : rows) {
         add_caption(row.caption, left, y + 1, right - left);
         add_caption(row.limits, left, y + 6, right - left);
-        Field& field = fields.emplace_back(row.caption, last_entry, inputs, row.specification);
+        Field& field = fields.emplace_back(row.caption, last_entry, input_look(box), row.specification);
         field.init(&pool, nullptr);
         field.set_value(row.value);
         mask.add(field.root(), at(right), at(y));
@@ -56,7 +53,7 @@ Limits_page::Limits_page(Page_style& page_style) : Number_page("limits", "Limits
     set_step([this](int direction) { fields.front().increment(direction * 5); }, right + 1, top + 1);
 
     constexpr int log_top = 84;
-    draw(log_box, area(right + width - left, 5), style.fill_195, style.line_none);
+    set_looks(log_box, area(right + width - left, 5), style.fill_195, style.line_none);
     add_caption("Last entry", left, log_top - 5, width);
     mask.add(log_box, at(left), at(log_top));
     add_text(last_entry, style.font_1, left + 1, log_top + 1, right + width - left - 2);

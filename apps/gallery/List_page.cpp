@@ -15,15 +15,9 @@ constexpr Dimension key_arrow{33, 25}; // pixels
 
 List_page::List_page(Page_style& page_style)
     : Page("list", silver, page_style), list(style), up_arrow(Arrow::up, key_arrow, style.fill_17, style.line_none),
-      down_arrow(Arrow::down, key_arrow, style.fill_17, style.line_none), up_key(shared, up_arrow.root(),
-                                                                                 [this] {
-                                                                                     list.select_up();
-                                                                                     say_what_is_chosen();
-                                                                                 }),
-      down_key(shared, down_arrow.root(), [this] {
-          list.select_down();
-          say_what_is_chosen();
-      })
+      down_arrow(Arrow::down, key_arrow, style.fill_17, style.line_none),
+      up_key(shared, up_arrow.root(), [this] { step(&List::select_up); }),
+      down_key(shared, down_arrow.root(), [this] { step(&List::select_down); })
 {
     add_title_bar("Selection list");
     build_list();
@@ -54,12 +48,18 @@ void List_page::build_list()
     mask.add(*list.root(), at(left), at(top));
 }
 
+void List_page::step(void (List::*select)())
+{
+    (list.*select)();
+    say_what_is_chosen();
+}
+
 void List_page::say_what_is_chosen() { chosen.format("%s", nozzles[list.get_selected_item()]); }
 
 void List_page::handle_event(VT::Button_activation_event& event)
 {
     list.handle_event(event);
-    if (list.was_last_button())
+    if (event.activation_code == Iso::Activation::released && list.was_last_button())
         say_what_is_chosen();
 }
 

@@ -28,6 +28,7 @@ class List_page final : public Page
     using List = VT::Comp::Custom_select_widget<50, 2>;
 
     void build_list();
+    void step(void (List::*select)());
     void say_what_is_chosen();
 
     std::deque<Caption> entries;

@@ -54,6 +54,13 @@ Number_widget::Style Number_page::look(std::uint32_t layout, VT::VT_obj& backdro
     return fields;
 }
 
+Number_widget::Style Number_page::input_look(VT::VT_obj& backdrop) const
+{
+    Number_widget::Style inputs = look(Number_widget::right_aligned, backdrop);
+    inputs.input = true;
+    return inputs;
+}
+
 void Number_page::set_step(std::function<void(int direction)> what, int x, int y)
 {
     step = std::move(what);

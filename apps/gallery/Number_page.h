@@ -22,6 +22,8 @@ class Number_page : public Page
 
     /// How a field looks on a page of numbers.
     VT::Comp::Number_widget::Style look(std::uint32_t layout, VT::VT_obj& backdrop) const;
+    /// How an input does.
+    VT::Comp::Number_widget::Style input_look(VT::VT_obj& backdrop) const;
 
     /// What the soft keys for a step up (1) and down (-1) do. Puts the arrows that mark the field, 4 by 4 each, at x,
     /// y.

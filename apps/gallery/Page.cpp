@@ -31,7 +31,7 @@ void Page::add_text(VT::String_variable_obj& text, Font_attributes_obj& font, in
     mask.add(string, at(x), at(y));
 }
 
-void Page::draw(Rectangle_obj& rectangle, Dimension size, Fill_attributes_obj& fill, Line_attributes_obj& line)
+void Page::set_looks(Rectangle_obj& rectangle, Dimension size, Fill_attributes_obj& fill, Line_attributes_obj& line)
 {
     resize(rectangle, size);
     rectangle.set_fill(&fill);

@@ -14,8 +14,7 @@
 namespace gallery {
 
 /// What each screen of the gallery is made with: a data mask, measures that fit its size, captions and, if it is asked
-/// for, a title bar. All lengths handed to it are quarters of the 24th part of the mask: 2.5 pixels on a mask of 240, 5
-/// on 480.
+/// for, a title bar. Lengths are in 96ths of the mask's side: 2.5 pixels on 240, 5 on 480.
 class Page
 {
   public:
@@ -28,8 +27,8 @@ class Page
     {}
     ~Page() = default;
 
-    std::int16_t at(int quarters) const { return static_cast<std::int16_t>(quarters * mask_size / 96); }
-    std::uint16_t span(int quarters) const { return static_cast<std::uint16_t>(quarters * mask_size / 96); }
+    std::int16_t at(int units) const { return static_cast<std::int16_t>(units * mask_size / 96); }
+    std::uint16_t span(int units) const { return static_cast<std::uint16_t>(units * mask_size / 96); }
     VT::Comp::Dimension area(int width, int height) const { return {span(width), span(height)}; }
 
     /// 5 high, at the top.
@@ -47,8 +46,8 @@ class Page
     void add_text(VT::String_variable_obj& text, VT::Comp::Font_attributes_obj& font, int x, int y, int width);
 
     /// Gives a rectangle its looks and its size.
-    static void draw(VT::Comp::Rectangle_obj& rectangle, VT::Comp::Dimension size, VT::Comp::Fill_attributes_obj& fill,
-                     VT::Comp::Line_attributes_obj& line);
+    static void set_looks(VT::Comp::Rectangle_obj& rectangle, VT::Comp::Dimension size,
+                          VT::Comp::Fill_attributes_obj& fill, VT::Comp::Line_attributes_obj& line);
 
     Page_style& shared;
     VT::Comp::Connection_elements& style;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t most = 10, few = 3, jumped_to = 7; // rows, rows, columns
 
-constexpr int left = 2, bar = 4;
+constexpr int left_edge = 2, bar = 4;
 constexpr int list_top = 8, list_width = 70, list_height = 44, row_height = 12;
 constexpr int strip_top = 60, strip_width = 92, strip_height = 30, column_width = 22;
 
@@ -16,15 +16,15 @@ constexpr Dimension key_arrow{30, 30}; // pixels
 
 } // namespace
 
+Scroll_page::Arrow_face::Arrow_face(Page_style& page_style, Arrow::Direction direction)
+    : arrow(direction, key_arrow, page_style.elements.fill_17, page_style.elements.line_none),
+      face(page_style, arrow.root())
+{}
+
 Scroll_page::Scroll_page(Page_style& page_style)
-    : Page("scroll", silver, page_style), arrows{Arrow(Arrow::up, key_arrow, style.fill_17, style.line_none),
-                                                 Arrow(Arrow::down, key_arrow, style.fill_17, style.line_none),
-                                                 Arrow(Arrow::left, key_arrow, style.fill_17, style.line_none),
-                                                 Arrow(Arrow::right, key_arrow, style.fill_17, style.line_none)},
-      faces{Key_face(shared, arrows[0].root()), Key_face(shared, arrows[1].root()), Key_face(shared, arrows[2].root()),
-            Key_face(shared, arrows[3].root())},
-      vertical(style, &list.container, &faces[0].root(), &faces[1].root()),
-      horizontal(style, &strip.container, &faces[2].root(), &faces[3].root()), rows_caption("Rows", shared),
+    : Page("scroll", silver, page_style), up(shared, Arrow::up), down(shared, Arrow::down), left(shared, Arrow::left),
+      right(shared, Arrow::right), vertical(style, &list.container, &up.face.root(), &down.face.root()),
+      horizontal(style, &strip.container, &left.face.root(), &right.face.root()), rows_caption("Rows", shared),
       jump_caption("Jump", shared), rows_key(shared, rows_caption.root(), [this] { switch_rows(); }),
       jump_key(shared, jump_caption.root(), [this] { jump(); })
 {
@@ -32,7 +32,7 @@ Scroll_page::Scroll_page(Page_style& page_style)
     build_rows();
     build_columns();
     for (Key_widget* key : {&vertical.up_key, &vertical.down_key, &horizontal.left_key, &horizontal.right_key})
-        finish(*key);
+        dress(*key);
     for (Object_pointer_obj* key :
          {vertical.get_up_key(), vertical.get_down_key(), horizontal.get_left_key(), horizontal.get_right_key()})
         keys.add(*key);
@@ -63,13 +63,13 @@ void Scroll_page::build_rows()
     resize(list.container, {size.width, static_cast<std::uint16_t>(most * size.height)});
     vertical.set_size(area(list_width, list_height), span(bar));
     vertical.update_content_size();
-    mask.add(*vertical.root(), at(left), at(list_top));
+    mask.add(*vertical.root(), at(left_edge), at(list_top));
 }
 
 void Scroll_page::build_columns()
 {
     const Dimension size = area(column_width, strip_height - bar);
-    draw(column_frame, size, style.fill_white, style.line_black);
+    set_looks(column_frame, size, style.fill_white, style.line_black);
     for (std::size_t i = 0; i < most; ++i) {
         Column& column = columns.emplace_back();
         column.number.set_font(&style.font_4);
@@ -87,7 +87,7 @@ void Scroll_page::build_columns()
     resize(strip.container, {static_cast<std::uint16_t>(most * size.width), size.height});
     horizontal.set_size(area(strip_width, strip_height), span(bar));
     horizontal.update_content_size();
-    mask.add(*horizontal.root(), at(left), at(strip_top));
+    mask.add(*horizontal.root(), at(left_edge), at(strip_top));
 }
 
 void Scroll_page::switch_rows()

@@ -9,7 +9,6 @@
 #include "vtui/comp/widgets/Scroll_horizontal_widget.h"
 #include "vtui/comp/widgets/Scroll_widget.h"
 
-#include <array>
 #include <deque>
 
 namespace gallery {
@@ -45,6 +44,14 @@ class Scroll_page final : public Page
         VT::Comp::Output_string_obj number;
     };
 
+    struct Arrow_face
+    {
+        Arrow_face(Page_style& page_style, Arrow::Direction direction);
+
+        Arrow arrow;
+        Key_face face;
+    };
+
     void build_rows();
     void build_columns();
 
@@ -54,8 +61,7 @@ class Scroll_page final : public Page
     std::deque<Column> columns;
     Content list, strip;
 
-    std::array<Arrow, 4> arrows;
-    std::array<Key_face, 4> faces;
+    Arrow_face up, down, left, right;
     VT::Comp::Scroll_widget vertical;
     VT::Comp::Scroll_horizontal_widget horizontal;
     Key_caption rows_caption, jump_caption;

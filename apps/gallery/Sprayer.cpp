@@ -9,7 +9,8 @@ using namespace VT::Comp;
 namespace {
 
 constexpr int margin = 4; // pixels
-constexpr std::uint8_t boom_part = 4;
+/// In drawing order.
+enum Part : std::uint8_t { sky_part, tank_part, air_part, text_part, boom_part, lamp_part };
 
 std::uint16_t length(int pixels) { return static_cast<std::uint16_t>(pixels); }
 
@@ -26,7 +27,7 @@ Sprayer::Sprayer(Page_style& shared, Dimension size)
     tank.set_fill(&liquid);
     bar.set_fill(&style.fill_17);
     level_text.set_font(&style.font_1);
-    level_text.set_variable(&percent);
+    level_text.set_variable(&level_words);
     level_text.options = VT::Field_obj::transparent;
 
     boom_parts.placements[0].ref = &bar;
@@ -55,7 +56,7 @@ void Sprayer::lay_out()
     resize(sky, size);
     resize(tank, {length(size.width / 6), length(size.height - 2 * margin)});
     resize(air, {tank.width, height_of_air()});
-    resize(level_text, text_size(percent.get_length(), level_text.font));
+    resize(level_text, text_size(level_words.get_length(), level_text.font));
 
     const Dimension drop = size_of(sections.front().children.placements[0]);
     resize(bar, {length(size.width / 2), length(drop.height / 2)});
@@ -74,15 +75,15 @@ void Sprayer::lay_out()
     }
 
     const int middle = (size.height - level_text.height) / 2;
-    const auto place = [this](std::size_t part, Point at) {
+    const auto place = [this](Part part, Point at) {
         parts.placements[part].x = at.x;
         parts.placements[part].y = at.y;
     };
-    place(1, {margin, margin});
-    place(2, {margin, margin});
-    place(3, {position(2 * margin + tank.width), position(middle)});
+    place(tank_part, {margin, margin});
+    place(air_part, {margin, margin});
+    place(text_part, {position(2 * margin + tank.width), position(middle)});
     place(boom_part, boom_place());
-    place(5, {position(size.width - margin - lamp.get_width()), centred(size.height, lamp.get_height())});
+    place(lamp_part, {position(size.width - margin - lamp.get_width()), centred(size.height, lamp.get_height())});
 }
 
 Point Sprayer::boom_place() const
@@ -106,7 +107,7 @@ void Sprayer::set_boom(int height)
 void Sprayer::set_level(int new_level)
 {
     level = std::clamp(new_level, 0, full);
-    percent.format("%d %%", level);
+    level_words.format("%d %%", level);
     air.change_size(air.width, height_of_air());
 }
 

@@ -53,8 +53,9 @@ class Sprayer
 
     int boom_height{1}, level{60};
     VT::Comp::Fill_attributes_obj liquid{VT::Comp::Connection_elements::with_fill_colour, 9}; // blue
-    VT::Comp::Rectangle_obj sky, tank, air, bar; ///< the air over the liquid
-    VT::Comp::String_variable_obj<5> percent;
+    VT::Comp::Rectangle_obj sky, tank, bar;
+    VT::Comp::Rectangle_obj air; ///< covers the tank's empty part
+    VT::Comp::String_variable_obj<5> level_words;
     VT::Comp::Output_string_obj level_text;
     std::array<Section, 2> sections;
     VT::Comp::Container_obj boom;

@@ -39,7 +39,7 @@ Trail_page::Trail_page(Page_style& page_style)
 void Trail_page::build_trail()
 {
     const Dimension size = area(trail_width, trail_height);
-    draw(background, size, style.fill_17, style.line_none);
+    set_looks(background, size, style.fill_17, style.line_none);
     for (Line_obj* line : {&trail.frame_vertical_line, &trail.frame_horizontal_line, &trail.select_line})
         line->set_line(&style.line_black_c);
     trail.set_size(size);

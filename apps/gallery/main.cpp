@@ -6,18 +6,25 @@
 
 #include <QString>
 
+#include <poll.h>
+#include <sys/signalfd.h>
+
+#include <cerrno>
 #include <charconv>
+#include <chrono>
 #include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -86,18 +93,39 @@ void take_answers(VT::Pool& pool, apps::Loopback_link& link)
         throw std::runtime_error(problems.front().text);
 }
 
-/// Shows the gallery on a page for browsers until a signal ends it. Afterwards the signals stay blocked.
-void serve(std::uint16_t port, terminal::Renderer& renderer)
+/// A descriptor that is readable once the process is to end. Blocks the signals that say so, which is to happen before
+/// there is another thread, so that none of them takes one.
+int open_endings()
 {
-    // Before there is another thread, so that none of them takes a signal.
     sigset_t endings;
     sigemptyset(&endings);
     sigaddset(&endings, SIGINT);
     sigaddset(&endings, SIGTERM);
     pthread_sigmask(SIG_BLOCK, &endings, nullptr);
+    const int descriptor = signalfd(-1, &endings, SFD_CLOEXEC);
+    if (descriptor < 0)
+        throw std::system_error(errno, std::generic_category(), "signalfd");
+    return descriptor;
+}
+
+/// True once the process is to end. Waits until then, for something to deliver, or for so long.
+bool wait_for_news(const Gallery& gallery, int endings, std::chrono::milliseconds longest)
+{
+    const auto [machine, settings] = gallery.descriptors();
+    pollfd waited_for[] = {{endings, POLLIN, 0}, {machine, POLLIN, 0}, {settings, POLLIN, 0}};
+    poll(waited_for, std::size(waited_for), static_cast<int>(longest.count()));
+    return waited_for[0].revents != 0;
+}
+
+/// Shows the gallery on a page for browsers until a signal ends it, with the machine at work and the settings in a
+/// file.
+void serve(std::uint16_t port, const std::filesystem::path& folder, terminal::Renderer& renderer)
+{
+    using namespace std::chrono_literals;
+    const int endings = open_endings();
 
     apps::Loopback_link link;
-    Gallery gallery(link.terminal.hardware().mask_size);
+    Gallery gallery(link.terminal.hardware().mask_size, (folder / "settings.db").string());
     VT::Pool& pool = gallery.pool();
     expect(pool.load(link));
 
@@ -115,14 +143,31 @@ void serve(std::uint16_t port, terminal::Renderer& renderer)
 
     const auto operated = [&] { take_answers(pool, link); };
     terminal::Web_page page(link.terminal, renderer, std::move(choice), operated, port);
+    NV_store::Store& settings = gallery.stored().store;
+    if (!settings.put_aside().empty())
+        std::printf("the settings were damaged: that file is %s now\n", settings.put_aside().c_str());
+    std::printf("the settings are kept in %s\n", settings.path().c_str());
     std::printf("the terminal is at http://127.0.0.1:%u/ until Ctrl-C\n", unsigned{page.port()});
     std::fflush(stdout);
-    const timespec second{1, 0};
-    while (sigtimedwait(&endings, nullptr, &second) < 0) {
-        const auto locked = page.lock();
-        pool.maintain();
-        take_answers(pool, link);
+    gallery.machine().start();
+    // The machine has news fifty times a second, a screen on a bus has room for five.
+    constexpr auto pause = 200ms, between_maintenances = 1000ms;
+    auto maintained = std::chrono::steady_clock::now();
+    while (!wait_for_news(gallery, endings, between_maintenances)) {
+        {
+            const auto locked = page.lock();
+            gallery.deliver();
+            if (const auto now = std::chrono::steady_clock::now(); now - maintained >= between_maintenances) {
+                pool.maintain();
+                maintained = now;
+            }
+            take_answers(pool, link);
+        }
+        if (const std::string problem = settings.take_problem(); !problem.empty())
+            std::fprintf(stderr, "gallery: %s\n", problem.c_str());
+        std::this_thread::sleep_for(pause);
     }
+    gallery.machine().stop();
 }
 
 struct Options
@@ -167,7 +212,7 @@ try {
     for (const std::uint16_t mask_size : mask_sizes)
         draw_pages(mask_size, options.folder, renderer);
     if (options.port)
-        serve(*options.port, renderer);
+        serve(*options.port, options.folder, renderer);
     return 0;
 } catch (const std::exception& problem) {
     std::fprintf(stderr, "gallery: %s\n", problem.what());

@@ -2,11 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <poll.h>
+#include <unistd.h>
+
 #include <array>
+#include <filesystem>
 #include <string>
 
 namespace {
 
+using gallery::Machine;
+using gallery::Settings;
 using terminal::Area;
 
 TEST(GalleryOperation, TheUnitsKeyShowsEveryNumberInTheNextSystem)
@@ -484,6 +490,91 @@ TEST(GalleryOperation, TheListIsChosenFromByFingerAndByKeys)
     expect_chosen("ISO 06");
     op.use(Operator::item_down);
     expect_chosen("ISO 06");
+}
+
+TEST(GalleryOperation, TheScreenShowsWhatTheMachineDoes)
+{
+    Operator op;
+    op.turn_to("machine");
+    op.look_again();
+    EXPECT_TRUE(op.sees("128.40")) << "hectares";
+    op.gallery.machine().work(2);
+    op.gallery.machine().work(60);
+    EXPECT_TRUE(op.sees("128.40")) << "until it looks again";
+    op.look_again();
+    EXPECT_TRUE(op.sees("12.0")) << "km/h";
+    EXPECT_TRUE(op.sees("3.2")) << "bar";
+    EXPECT_TRUE(op.sees("2751")) << "litres";
+    EXPECT_TRUE(op.sees("128.90")) << "hectares";
+}
+
+TEST(GalleryOperation, TheMachineDoesWhatTheOperatorSets)
+{
+    Operator op;
+    op.turn_to("machine");
+    op.look_again();
+    Machine& machine = op.gallery.machine();
+    op.use(Operator::up);
+    EXPECT_EQ(CDS::read(machine.store, machine.data.target_speed), 13);
+    op.enter(1, 150);
+    EXPECT_EQ(CDS::read(machine.store, machine.data.rate), 150);
+    machine.work(2);
+    op.look_again();
+    EXPECT_EQ(op.count([](const Operator::Shown& shown) { return shown.text == "13.0"; }), 2U) << "set, and driven";
+}
+
+TEST(GalleryOperation, TheMachineWorksOnAThreadOfItsOwn)
+{
+    Operator op;
+    op.turn_to("machine");
+    op.look_again();
+    Machine& machine = op.gallery.machine();
+    machine.start();
+    pollfd news{op.gallery.descriptors()[0], POLLIN, 0};
+    constexpr int longest = 10'000; // milliseconds
+    while (op.sees("0.0") && poll(&news, 1, longest) == 1)
+        op.look_again();
+    EXPECT_FALSE(op.sees("0.0")) << "it drives, and has pressure";
+    machine.stop();
+}
+
+TEST(GalleryOperation, SettingsAreStillThereAfterARestart)
+{
+    const auto folder = std::filesystem::temp_directory_path() / ("vtui-settings-" + std::to_string(getpid()));
+    std::filesystem::create_directory(folder);
+    const std::string file = (folder / "settings.db").string();
+    {
+        Operator op({}, file);
+        op.turn_to("settings");
+        EXPECT_TRUE(op.sees("24.0")) << "metres, as delivered";
+        op.use(Operator::up);
+        op.enter(1, 9);
+        EXPECT_TRUE(op.sees("24.5"));
+    }
+    {
+        Operator op({}, file);
+        op.turn_to("settings");
+        EXPECT_TRUE(op.sees("24.5"));
+        EXPECT_TRUE(op.sees("9"));
+        EXPECT_TRUE(op.sees("130")) << "which nobody has changed";
+    }
+    std::filesystem::remove_all(folder);
+}
+
+TEST(GalleryOperation, SettingsAreFollowedWhileTheirPageIsSeen)
+{
+    Operator op;
+    Settings& settings = op.gallery.stored();
+    op.turn_to("settings");
+    settings.sections.set(8);
+    op.look_again();
+    EXPECT_TRUE(op.sees("8"));
+    op.turn_to("machine");
+    settings.sections.set(5);
+    op.look_again();
+    op.turn_to("settings");
+    EXPECT_TRUE(op.sees("5")) << "refreshed when it came into sight";
+    EXPECT_FALSE(op.sees("8"));
 }
 
 } // namespace

@@ -88,7 +88,8 @@ void collect(const terminal::Object_pool& pool, Object parent, Position place, c
 
 } // namespace
 
-Operator::Operator(const terminal::Hardware& hardware) : link(hardware), gallery(hardware.mask_size)
+Operator::Operator(const terminal::Hardware& hardware, const std::string& settings_file)
+    : link(hardware), gallery(hardware.mask_size, settings_file)
 {
     for (const VT::Result& result : {gallery.pool().ask_hardware(link), gallery.pool().load(link)})
         EXPECT_TRUE(result) << result.text();
@@ -196,6 +197,12 @@ std::size_t Operator::pictures(int width) const
 {
     return count(
         [&](const Shown& shown) { return shown.type == Object_type::picture_graphic && shown.area.width() == width; });
+}
+
+void Operator::look_again()
+{
+    gallery.deliver();
+    deliver();
 }
 
 void Operator::deliver()

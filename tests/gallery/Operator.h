@@ -48,7 +48,7 @@ class Operator
         bool fits; ///< all of the text is inside its field, and that inside what shows it
     };
 
-    explicit Operator(const terminal::Hardware& hardware = {});
+    explicit Operator(const terminal::Hardware& hardware = {}, const std::string& settings_file = ":memory:");
 
     /// Turns to the page of that name.
     void turn_to(const std::string& page);
@@ -67,6 +67,9 @@ class Operator
     void slip_from(const std::string& text);
     /// Ends the entry that is open with this number, in display units.
     void type(const std::string& number);
+
+    /// Lets the gallery show what the machine and others have done.
+    void look_again();
 
     /// Everything in the mask that is shown, behind pointers too, in the order of drawing, except numbers that are
     /// covered.
