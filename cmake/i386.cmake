@@ -6,6 +6,9 @@ cmake_path(NORMAL_PATH sysroot)
 set(CMAKE_CXX_FLAGS_INIT "-m32 -msse2 -mfpmath=sse")
 set(CMAKE_LIBRARY_ARCHITECTURE i386-linux-gnu)
 list(APPEND CMAKE_PREFIX_PATH ${sysroot}/usr)
-# What a library of the sysroot needs lies beside it: an old-style run path is inherited, a new-style one is not.
+# What a library of the sysroot needs lies beside it: an old-style run path is inherited, as long as no library on the
+# way has a new-style one of its own.
 set(run_path ${sysroot}/usr/lib/i386-linux-gnu:${sysroot}/lib/i386-linux-gnu)
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,--disable-new-dtags,-rpath,${run_path} -Wl,--allow-shlib-undefined")
+set(CMAKE_SHARED_LINKER_FLAGS_INIT "-Wl,--disable-new-dtags")
+set(CMAKE_EXE_LINKER_FLAGS_INIT
+    "-Wl,--disable-new-dtags,-rpath,${run_path} -Wl,--allow-shlib-undefined -L${sysroot}/usr/lib/i386-linux-gnu")
