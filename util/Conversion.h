@@ -40,7 +40,7 @@ inline std::uint32_t round_to_uint32(double value) { return to_uint32(std::rint(
 inline std::int64_t round_to_int64(double value) { return to_int64(std::rint(value)); }
 
 /// A number as a variable of type T takes it: rounded to the nearest integer, halves to the even one. The types below
-/// 32 bits keep the low bits of a signed 32-bit integer; a bool says whether it is not 0, and NaN is not. Floating
+/// 32 bits keep the low bits of a signed 32-bit integer; a bool says whether it is not 0, and NaN is true. Floating
 /// types round as always.
 template <typename T>
 T to_number(double value)

@@ -6,16 +6,23 @@ namespace CDS {
 
 void Access_base::init(const Access_base& place)
 {
-    if (place.store)
-        place.store->check(place.first, place.bytes);
+    Head* const new_store = place.store; // the place may be its own
+    if (new_store)
+        new_store->check(place.first, place.bytes);
     leave();
-    store = place.store;
+    store = new_store;
     first = place.first;
     bytes = place.bytes;
     if (store && listener) {
         store->enter(*this);
         registered = true;
     }
+}
+
+void Access_base::settle()
+{
+    if (registered)
+        store->drop(*this);
 }
 
 void Access_base::leave()

@@ -23,7 +23,8 @@ class VTUI_EXPORT Virt_access
 
 /// A place in a store's data and, with a listener, who is to hear of changes there. The place is two numbers: the
 /// offset of its first byte from the beginning of the data, and its extent, how many of its bytes are watched. A number
-/// is written as a whole, so that its first byte stands for all of it: extent 1. Of a structure watch all.
+/// is written as a whole, so that its first byte stands for all of it: extent 1. Of a structure watch all. Numbers that
+/// share bytes, as in a union, are not told of one another.
 ///
 /// Accesses come and go on the thread that delivers, at any time: from within a notification too, and while their own
 /// is on its way. It is never called then.
@@ -43,6 +44,9 @@ class VTUI_EXPORT Access_base
     /// Takes over a place and registers with its store, which delivers once for a start. Leaves the store that it had.
     /// Throws std::out_of_range if the place lies outside of the store's data.
     void init(const Access_base& place);
+
+    /// What it is to be delivered for is known already. With the lock of the store held nothing newer can be among it.
+    void settle();
 
     /// Null: none, or it is gone.
     Head* head() const { return store; }

@@ -125,21 +125,32 @@ void Head::remove(Access_base& access)
     *link_to(&access, access) = access.next_in_cell;
 }
 
+void Head::drop(Access_base& access)
+{
+    const std::lock_guard<std::mutex> lock(guard);
+    if (access.queued)
+        take(access);
+}
+
 bool Head::note(unsigned offset, unsigned extent)
 {
     extent = std::max(extent, 1U);
     const std::lock_guard<std::mutex> lock(guard);
-    const std::size_t before = queued;
+    bool is_somebody_concerned = false;
     const auto note_in = [&](Access_base* access) {
-        for (; access; access = access->next_in_cell)
-            if (!access->queued && overlap(*access, offset, extent))
+        for (; access; access = access->next_in_cell) {
+            if (!overlap(*access, offset, extent))
+                continue;
+            is_somebody_concerned = true;
+            if (!access->queued)
                 append(*access);
+        }
     };
     const std::size_t end = std::min(std::size_t{last_cell(offset, extent)} + 1, cells.size());
     for (std::size_t cell = offset / cell_size; cell < end; ++cell)
         note_in(cells[cell]);
     note_in(across);
-    return queued > before;
+    return is_somebody_concerned;
 }
 
 Access_base** Head::link_to(const Access_base* wanted, const Access_base& place)

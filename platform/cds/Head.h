@@ -69,7 +69,9 @@ class VTUI_EXPORT Head : public MutexImp
     unsigned offset_of(const void* variable, std::size_t extent) const;
     void enter(Access_base& access);
     void remove(Access_base& access);
-    /// True if there is more to deliver than there was.
+    void drop(Access_base& access); ///< is not delivered to, unless something changes again
+    /// True if anybody is concerned: also by one who is noted already, because whoever noted it may not get to wake
+    /// the thread that delivers.
     bool note(unsigned offset, unsigned extent);
     /// In the chain for accesses of that place: what points to `wanted`, or for null the end.
     Access_base** link_to(const Access_base* wanted, const Access_base& place);

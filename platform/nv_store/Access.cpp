@@ -30,15 +30,26 @@ void Virt_access::autoreg(waiter_descriptor* waiter, bool since_read)
 
 void Virt_access::autounreg(waiter_descriptor* waiter)
 {
-    if (!waiter || registered_under != waiter)
+    waiter_descriptor* const present = registered_under;
+    if (!present || (waiter && waiter != present))
         return;
     {
         const std::lock_guard lock(item->owner.mutex);
         in_item.leave();
         registered_under = nullptr;
     }
-    waiter->drop(*this); // nobody notifies it any more
+    present->drop(*this); // nobody notifies it any more
     in_waiter.leave();
+}
+
+void Virt_access::settle(Bits known)
+{
+    const std::lock_guard lock(item->owner.mutex);
+    if (item_value() != known)
+        return;
+    last_read = known;
+    if (registered_under)
+        registered_under->drop(*this);
 }
 
 void Virt_access::ask()

@@ -39,10 +39,13 @@ class VTUI_EXPORT Virt_access : public Access_base
     /// whoever shows the value first and registers then misses none. Once more under the same waiter: nothing else;
     /// under another one: it moves there.
     void autoreg(waiter_descriptor* waiter, bool since_read);
-    /// Ends the registration under that waiter; a notification on the way is dropped. Does nothing if there is none.
+    /// Ends the registration under that waiter, with null under whichever; a notification on the way is dropped. Does
+    /// nothing if there is none.
     void autounreg(waiter_descriptor* waiter);
     /// Asks for a notification of its own, as if the item had changed, if it is registered.
     void ask();
+    /// The owner knows already that the item is that. If it still is, a notification on the way is dropped.
+    void settle(Bits known);
 
   protected:
     Bits last_read{item_value()}; ///< what autoreg() compares with
@@ -52,7 +55,7 @@ class VTUI_EXPORT Virt_access : public Access_base
     friend class ::waiter_descriptor;
 
     Bits item_value() const;
-    void notify(); ///< by any thread, with the store's lock held
+    void notify(); ///< while registered: by the owner, or by any thread with the store's lock held
 
     waiter_descriptor* registered_under{nullptr}; ///< written with the store's lock held
     Link<Virt_access> in_item{*this};             ///< guarded by the store

@@ -163,7 +163,9 @@ void File::read(const std::function<void(const Row& row)>& take)
             sqlite3_stmt* const row = rows.get();
             const auto type = static_cast<Data_item::item_type_t>(sqlite3_column_int64(row, 1));
             const int kind = sqlite3_column_type(row, 2);
-            Row result{reinterpret_cast<const char*>(sqlite3_column_text(row, 0)), type, 0, kind == SQLITE_INTEGER};
+            const auto* const name = reinterpret_cast<const char*>(sqlite3_column_text(row, 0));
+            const auto length = static_cast<std::size_t>(sqlite3_column_bytes(row, 0)); // which may have zeros in it
+            Row result{std::string(name, length), type, 0, kind == SQLITE_INTEGER};
             if (!is_floating(type)) {
                 result.value = to_bits(sqlite3_column_int64(row, 2));
             } else {

@@ -86,7 +86,8 @@ Record& Store::claim(const std::string& name, Data_item::item_type_t type, Bits 
     const std::lock_guard lock(mutex);
     const auto [entry, is_new] = records.try_emplace(name);
     Record& record = entry->second;
-    record.name = &entry->first;
+    if (is_new)
+        record.name = &entry->first; // and never again: others read it without the lock
     if (record.is_in_use)
         refuse(record, "is there twice");
     if (!record.is_kept) {

@@ -198,6 +198,39 @@ TEST_F(CdsNumberWidget, WritesWhatTheOperatorEntersAndThenShowsWhatIsStored)
     EXPECT_FALSE(is_readable(head.descriptor()));
 }
 
+TEST_F(CdsNumberWidget, LeavesAnEntryOnTheScreenAsItWasEntered)
+{
+    // Beyond the limits as they are in the store's units: shown anew it would be held within them.
+    Cds_number_widget<double> input(head, data.d, style(0, true), bounded(-1000, 30, 0.1, 1), nullptr);
+    go_live(input);
+    enter(input, 10370);
+    EXPECT_DOUBLE_EQ(data.d, 37);
+    EXPECT_EQ(pool.news(), Messages{numeric_value(output_id, 10370)});
+    EXPECT_EQ(head.deliver(), 0U);
+    EXPECT_TRUE(pool.news().empty());
+    write(data.d, 38.0);
+    EXPECT_EQ(head.deliver(), 1U) << "that is another's";
+    EXPECT_EQ(input.get_value(), 30);
+}
+
+TEST_F(CdsNumberWidget, ShowsWhatATypeMakesOfAnEntryEachTime)
+{
+    Cds_number_widget<int> input(head, data.i, style(0, true), tens, nullptr);
+    go_live(input);
+    for (int i = 0; i < 2; ++i) {
+        enter(input, 10124); // 12.4
+        EXPECT_EQ(head.deliver(), 1U);
+        EXPECT_EQ(input.get_value(), 12);
+    }
+}
+
+TEST_F(CdsNumberWidget, StoresAnEntryBeyondItsLimits)
+{
+    Cds_number_widget<double> input(head, data.d, style(0, true), bounded(0, 5), nullptr);
+    input.handle_input_value(7);
+    EXPECT_EQ(data.d, 7);
+}
+
 TEST_F(CdsNumberWidget, WritesNothingForAnEntryElsewhere)
 {
     Cds_number_widget<int> input(head, data.i, style(0, true), tens, nullptr);
@@ -249,7 +282,7 @@ TEST_F(CdsNumberWidget, TellsTheOthersThatShowTheVariable)
     head.deliver();
     input.handle_input_value(9);
     stranger.set_value(1);
-    EXPECT_EQ(head.deliver(), 2U);
+    EXPECT_EQ(head.deliver(), 1U);
     EXPECT_EQ(other.get_value(), 9);
     EXPECT_EQ(stranger.get_value(), 1);
 }

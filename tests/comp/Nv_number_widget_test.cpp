@@ -108,6 +108,16 @@ TEST_F(NvNumberWidget, MayStartAndStopTwice)
     EXPECT_EQ(waiter.deliver(), 0U);
 }
 
+TEST_F(NvNumberWidget, IsUpToDateWhenItRegistersAgain)
+{
+    field.start(&waiter);
+    field.stop(&waiter);
+    number.set(13);
+    field.start(&waiter);
+    EXPECT_EQ(field.get_value(), 13);
+    EXPECT_EQ(waiter.deliver(), 0U) << "shown before it is registered, so there is nothing left to tell";
+}
+
 TEST_F(NvNumberWidget, ShowsBeforeItRegisters)
 {
     // A field whose pool changes the number while it is shown: what it registers for is already old.
@@ -155,12 +165,35 @@ TEST_F(NvNumberWidget, StoresWhatIsEntered)
     EXPECT_EQ(number.get(), 38.5) << "nobody entered it";
 }
 
-TEST_F(NvNumberWidget, HearsOfItsOwnEntriesAsWell)
+TEST_F(NvNumberWidget, LeavesAnEntryOnTheScreenAsItWasEntered)
 {
-    field.start(&waiter);
-    field.handle_input_value(37);
-    EXPECT_EQ(waiter.deliver(), 1U);
-    EXPECT_EQ(field.get_value(), 37);
+    // Beyond the limits as they are in the store's units: shown anew it would be held within them.
+    Nv_number_widget<Double> limited(number, style(), bounded(0, 30), nullptr);
+    limited.start(&waiter);
+    limited.value = 37;
+    limited.handle_input_value(37);
+    EXPECT_EQ(waiter.deliver(), 0U);
+    EXPECT_EQ(limited.get_value(), 37);
+    EXPECT_EQ(number.get(), 37);
+    number.set(38);
+    EXPECT_EQ(waiter.deliver(), 1U) << "that is another's";
+    EXPECT_EQ(limited.get_value(), 30);
+}
+
+TEST_F(NvNumberWidget, StoresAnEntryBeyondItsLimits)
+{
+    Nv_number_widget<Double> limited(number, style(), bounded(0, 5), nullptr);
+    limited.handle_input_value(7);
+    EXPECT_EQ(number.get(), 7);
+}
+
+TEST_F(NvNumberWidget, IsHiddenWithoutAWaiterToo)
+{
+    field.handle_event(Visible_event{true, &waiter});
+    field.handle_event(Visible_event{false, nullptr});
+    number.set(13);
+    EXPECT_EQ(waiter.deliver(), 0U);
+    EXPECT_EQ(field.get_value(), 12);
 }
 
 TEST_F(NvNumberWidget, ShowsWhatIsStoredAfterAnEntryThatTheTypeRounds)
@@ -184,7 +217,7 @@ TEST_F(NvNumberWidget, SharesANumberWithOthers)
     field.start(&waiter);
     other.start(&waiter);
     field.handle_input_value(37);
-    EXPECT_EQ(waiter.deliver(), 2U);
+    EXPECT_EQ(waiter.deliver(), 1U);
     EXPECT_EQ(other.get_value(), 37);
 }
 

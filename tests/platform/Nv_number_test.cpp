@@ -165,6 +165,21 @@ TEST_F(NvNumber, MayHaveAnyName)
     EXPECT_EQ(Double(store, name, 1).get(), 2);
 }
 
+TEST_F(NvNumber, MayHaveZerosInItsName)
+{
+    const std::string b("a\0b", 3), c("a\0c", 3);
+    {
+        Store store(path);
+        Double(store, b, 0).set(1);
+        Double(store, c, 0).set(2);
+        Double(store, "a", 0).set(3);
+    }
+    Store store(path);
+    EXPECT_EQ(Double(store, b, 0).get(), 1);
+    EXPECT_EQ(Double(store, c, 0).get(), 2);
+    EXPECT_EQ(Double(store, "a", 0).get(), 3);
+}
+
 TEST_F(NvNumber, IsThereOnce)
 {
     Store store(path);

@@ -32,7 +32,8 @@ Cds_number_widget<T>::Cds_number_widget(CDS::Head& head, T& bound, const Style& 
 template <class T>
 void Cds_number_widget<T>::handle_input_value(double v)
 {
-    Mixin::write(Conversion::to_number<T>(v));
+    const T x = Conversion::to_number<T>(v);
+    Mixin::write(x, static_cast<double>(x) == v);
 }
 
 template <class T>

@@ -27,7 +27,8 @@ class VTUI_EXPORT Cds_number_widget : public Number_widget, public Cds_widget_mi
                       VT::String_variable_obj* units_text);
     Cds_number_widget(CDS::Head& head, T& bound, const Style& style, VT::String_variable_obj* units_text);
 
-    /// Writes the store.
+    /// Writes the store, not with its lock held. What T changes of the entry is shown by the next delivery; an entry
+    /// that is stored as it is stays on the screen as it was entered.
     void handle_input_value(double v) override;
     /// Shows a value of the store.
     void handle_cds_value(T v);

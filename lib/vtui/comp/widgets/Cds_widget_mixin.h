@@ -24,14 +24,17 @@ class VTUI_EXPORT Cds_widget_mixin : public CDS::Access<T, CDS::Virt_access>
         return CDS::read(*this->access.head(), *this->variable);
     }
 
-    /// Other accesses to the variable hear of it, and so does this one: what is shown is what is stored.
-    void write(T value)
+    /// Other accesses to the variable hear of it, and so does this one, unless W shows that very value already. Not
+    /// with the lock held.
+    void write(T value, bool is_shown = false)
     {
         check();
         CDS::Head& head = *this->access.head();
         head.hold();
         head.event_signal(this->variable, &value, this->access.offset(), this->access.extent(), nullptr);
         *this->variable = value;
+        if (is_shown)
+            this->access.settle();
         head.release();
     }
 

@@ -60,8 +60,10 @@ void Nv_number_widget<N>::handle_input_value(double v)
 {
     const auto x = Conversion::to_number<typename N::value_type>(v);
     Access::number().set(x);
-    // What is stored already is no news, but it may be other than what was entered.
-    if (static_cast<double>(x) != v)
+    // What is stored as it was entered is shown already. Otherwise it may have been stored before, and be no news.
+    if (static_cast<double>(x) == v)
+        Access::settle(NV_store::to_bits(x));
+    else
         Access::ask();
 }
 

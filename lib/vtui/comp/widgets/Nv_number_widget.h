@@ -39,7 +39,8 @@ class VTUI_EXPORT Nv_number_widget : public Number_widget, public NV_store::Acce
     /// start() or stop().
     void handle_event(Visible_event event);
 
-    /// Sets the stored number.
+    /// Sets the stored number. What its type changes of the entry is shown by the next delivery; an entry that is
+    /// stored as it is stays on the screen as it was entered.
     void handle_input_value(double v) override;
     /// Shows the stored number, which has changed.
     void handle_event() override;

@@ -9,7 +9,7 @@ namespace VT::Comp {
 struct Visible_event
 {
     bool visible;
-    waiter_descriptor* waiter; ///< under which a visible component hears of changes
+    waiter_descriptor* waiter; ///< under which it hears of changes while visible; null will do when it is not
 };
 
 } // namespace VT::Comp
