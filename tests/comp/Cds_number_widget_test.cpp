@@ -297,7 +297,9 @@ TEST_F(CdsNumberWidget, StoresDoublesAsTheyAre)
 
 TEST_F(CdsNumberWidget, StoresFloatsRoundedToTheNearest)
 {
-    expect_stored(data.f, {{0.1, 0.1F}, {16777217, 16777216.F}, {16777219, 16777220.F}});
+    expect_stored(
+        data.f,
+        {{0.1, 0.1F}, {16777217, 16777216.F}, {16777219, 16777220.F}, {1e300, HUGE_VALF}, {-1e300, -HUGE_VALF}});
 }
 
 TEST_F(CdsNumberWidget, StoresTheLow8Bits)

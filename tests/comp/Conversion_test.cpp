@@ -359,6 +359,9 @@ TEST(Conversion, ToFloatingNumbersDoesNotRoundToIntegers)
 {
     expect_numbers<double>({{2.5, 2.5}, {0.1, 0.1}, {huge, huge}});
     expect_numbers<float>({{2.5, 2.5F}, {0.1, 0.1F}, {16777217.0, 16777216.0F}, {tiny, 0.0F}});
+    constexpr float beyond = std::numeric_limits<float>::infinity();
+    expect_numbers<float>({{1e300, beyond}, {-1e300, -beyond}, {infinity, beyond}});
+    EXPECT_TRUE(std::isnan(Conversion::to_number<float>(nan)));
 }
 
 } // namespace

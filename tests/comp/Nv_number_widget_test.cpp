@@ -350,6 +350,8 @@ TEST(NvNumberWidgetEntry, OfALargeIntegerRoundsToTheEvenOne)
 TEST(NvNumberWidgetEntry, OfAFloatingNumberStaysWhatItIs)
 {
     EXPECT_EQ((entered<float, Data_item::float32>(0.1)), 0.1F);
+    EXPECT_EQ((entered<float, Data_item::float32>(1e300)), HUGE_VALF);
+    EXPECT_EQ((entered<float, Data_item::float32>(-1e300)), -HUGE_VALF);
     EXPECT_EQ((entered<double, Data_item::float64>(0.1)), 0.1);
     EXPECT_TRUE(std::isnan(entered<double, Data_item::float64>(nan)));
 }

@@ -169,7 +169,7 @@ void fill_small_disk(const fs::path& folder, const std::string& path)
 TEST_F(NvDisk, ThatIsFullIsSurvived)
 {
     if (geteuid() != 0)
-        GTEST_SKIP() << "only root can mount a small disk";
+        GTEST_SKIP() << "only root can mount a small disk; a limit on the file's size stands in for it elsewhere";
     bool is_mounted = true;
     EXPECT_EXIT(
         fill_small_disk(folder, path),
@@ -179,7 +179,7 @@ TEST_F(NvDisk, ThatIsFullIsSurvived)
         },
         ::testing::Eq(""));
     if (!is_mounted)
-        GTEST_SKIP() << "nothing can be mounted here";
+        GTEST_SKIP() << "nothing can be mounted here; a limit on the file's size stands in for it elsewhere";
 }
 
 } // namespace
