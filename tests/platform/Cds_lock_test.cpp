@@ -169,4 +169,24 @@ TEST(CdsLock, IsHeldByAReaderAndByAWriterAsLongAsTheyLive)
     head.unlock();
 }
 
+TEST(CdsLock, ForgetsItsHolderBeforeTheNextOneHasIt)
+{
+    MutexImp lock;
+    std::atomic<int> forgotten{0};
+    std::thread threads[2];
+    for (std::thread& thread : threads)
+        thread = std::thread([&] {
+            for (int i = 0; i < 50'000; ++i) {
+                lock.hold();
+                for (int look = 0; look < 20; ++look)
+                    if (!lock.is_held_by_this_thread() || lock.qt_thread != QThread::currentThreadId())
+                        ++forgotten;
+                lock.release();
+            }
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(forgotten, 0);
+}
+
 } // namespace
