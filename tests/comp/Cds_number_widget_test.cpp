@@ -3,6 +3,7 @@
 #include "tests/platform/Readable.h"
 #include "vtui/comp/widgets/Cds_number_widget.h"
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <cmath>
@@ -44,6 +45,33 @@ class CdsNumberWidget : public Field
 {
   protected:
     static constexpr Specification tens = bounded(-1000, 1000, 0.1, 1);
+    static constexpr Specification kilometres = bounded(0, 100, 1, 0, Units_man::distance_long);
+    static constexpr Specification miles = bounded(0, 62, 1, 0, Units_man::distance_long);
+
+    static Units_man shown_in(Units_man::units_systems system)
+    {
+        Units_man units;
+        units.set_system_type(system);
+        return units;
+    }
+
+    /// 60 miles entered for a variable of type T are 60 miles on the screen after a delivery.
+    template <class T>
+    void expect_an_entry_of_60_miles_to_stay(T& variable)
+    {
+        Cds_number_widget<T> input(head, variable, style(0, true), kilometres, miles, nullptr);
+        go_live(input);
+        Units_man imperial = shown_in(Units_man::imperial);
+        input.handle_event(imperial);
+        pool.news();
+
+        enter(input, 60);
+        EXPECT_NEAR(static_cast<double>(variable), 96.56, 0.5);
+        EXPECT_EQ(head.deliver(), 0U) << "told, it would be held within 62, as if those were kilometres";
+        EXPECT_EQ(input.output_number.value, 60U);
+        EXPECT_EQ(pool.news(), Messages{numeric_value(output_id, 60)});
+        pool.live = false;
+    }
 
     /// Initialised and laid out, its start delivered and the terminal told of all.
     void go_live(Number_widget& field)
@@ -213,6 +241,69 @@ TEST_F(CdsNumberWidget, LeavesAnEntryOnTheScreenAsItWasEntered)
     EXPECT_EQ(input.get_value(), 30);
 }
 
+TEST_F(CdsNumberWidget, LeavesAnEntryThatTheTypeRoundsOnTheScreenIfItLooksTheSame)
+{
+    expect_an_entry_of_60_miles_to_stay(data.d);
+    expect_an_entry_of_60_miles_to_stay(data.f);
+    expect_an_entry_of_60_miles_to_stay(data.uc);
+    expect_an_entry_of_60_miles_to_stay(data.sc);
+    expect_an_entry_of_60_miles_to_stay(data.us);
+    expect_an_entry_of_60_miles_to_stay(data.s);
+    expect_an_entry_of_60_miles_to_stay(data.i);
+    expect_an_entry_of_60_miles_to_stay(data.u);
+    expect_an_entry_of_60_miles_to_stay(data.ll);
+    expect_an_entry_of_60_miles_to_stay(data.ull);
+}
+
+TEST_F(CdsNumberWidget, ShowsAnEntryThatWasNotOnTheScreen)
+{
+    Cds_number_widget<double> field(head, data.d, style(0, true), bounded(0, 10), nullptr);
+    go_live(field);
+    write(data.d, 3.0);
+    head.deliver();
+    pool.news();
+    field.handle_input_value(7); // handed over by the application
+    EXPECT_EQ(data.d, 7);
+    EXPECT_EQ(head.deliver(), 1U);
+    EXPECT_EQ(field.get_value(), 7);
+    EXPECT_EQ(pool.news(), (Messages{numeric_value(output_id, 7), numeric_value(input_id, 7)}));
+}
+
+TEST_F(CdsNumberWidget, ShowsWhatTheStoreHoldsAgainWhenUnitsSwitch)
+{
+    data.d = 90;
+    Cds_number_widget<double> field(head, data.d, style(), kilometres, miles, nullptr);
+    go_live(field);
+    Units_man imperial = shown_in(Units_man::imperial);
+    field.handle_event(imperial);
+    EXPECT_EQ(field.get_value(), 62) << "held within the limits of the system shown";
+    EXPECT_EQ(field.output_number.value, 39U);
+    EXPECT_EQ(data.d, 90);
+    pool.news();
+
+    Units_man metric = shown_in(Units_man::metric);
+    field.handle_event(metric);
+    EXPECT_EQ(field.get_value(), 90);
+    const Messages sent = pool.news();
+    ASSERT_GE(sent.size(), 1U);
+    EXPECT_EQ(std::count(sent.begin(), sent.end(), numeric_value(output_id, 90)), 1);
+    EXPECT_EQ(std::count(sent.begin(), sent.end(), numeric_value(output_id, 62)), 0) << "not for a moment";
+}
+
+TEST_F(CdsNumberWidget, KeepsItsValueWhereNoSystemOfItsQuantityIsChosen)
+{
+    Cds_number_widget<double> field(head, data.d, style(), bounded(0, 100, 1, 0, Units_man::speed),
+                                    bounded(0, 100, 1, 0, Units_man::mass), bounded(0, 100, 1, 0, Units_man::area),
+                                    nullptr);
+    go_live(field);
+    data.d = 90; // not delivered yet
+    Units_man units;
+    units.set_system_type(Units_man::speed, Units_man::us);
+    field.handle_event(units);
+    EXPECT_EQ(field.get_value(), 0) << "as the terminal shows it";
+    EXPECT_EQ(field.output_number.value, 0U);
+}
+
 TEST_F(CdsNumberWidget, ShowsWhatATypeMakesOfAnEntryEachTime)
 {
     Cds_number_widget<int> input(head, data.i, style(0, true), tens, nullptr);
@@ -280,7 +371,7 @@ TEST_F(CdsNumberWidget, TellsTheOthersThatShowTheVariable)
     Cds_number_widget<int> other(head, data.i, style(), tens, nullptr);
     Cds_number_widget<unsigned> stranger(head, data.u, style(), tens, nullptr);
     head.deliver();
-    input.handle_input_value(9);
+    input.handle_input(10090); // 9
     stranger.set_value(1);
     EXPECT_EQ(head.deliver(), 1U);
     EXPECT_EQ(other.get_value(), 9);

@@ -30,6 +30,13 @@ constexpr Specification wide = bounded(-1e6, 1e6);
 class NvNumberWidget : public Field
 {
   protected:
+    static constexpr Specification kilometres = bounded(0, 100, 1, 0, Units_man::distance_long);
+    static constexpr Specification miles = bounded(0, 62, 1, 0, Units_man::distance_long);
+
+    NvNumberWidget() { imperial.set_system_type(Units_man::imperial); }
+
+    Units_man metric;
+    Units_man imperial;
     NV_store::Store store{NV_store::Store::in_memory};
     waiter_descriptor waiter;
     Double number{store, "number", 12};
@@ -199,7 +206,8 @@ TEST_F(NvNumberWidget, IsHiddenWithoutAWaiterToo)
 TEST_F(NvNumberWidget, ShowsWhatIsStoredAfterAnEntryThatTheTypeRounds)
 {
     Int whole(store, "whole", 2);
-    Nv_number_widget<Int> rounded(whole, style(), wide, nullptr);
+    Nv_number_widget<Int> rounded(whole, style(), bounded(-1000, 1000, 0.1, 1), nullptr);
+    rounded.init(nullptr);
     rounded.start(&waiter);
     for (const auto& [entry, stored] : {std::pair(3.4, 3.0), {3.4, 3.0}, {2.6, 3.0}, {7.0, 7.0}}) {
         rounded.value = entry; // as handle_input() leaves it
@@ -211,12 +219,57 @@ TEST_F(NvNumberWidget, ShowsWhatIsStoredAfterAnEntryThatTheTypeRounds)
     EXPECT_EQ(waiter.deliver(), 0U) << "this is what it shows already";
 }
 
+TEST_F(NvNumberWidget, LeavesAnEntryThatTheTypeRoundsOnTheScreenIfItLooksTheSame)
+{
+    NV_number<float, Data_item::float32> distance(store, "distance");
+    Nv_number_widget<NV_number<float, Data_item::float32>> input(distance, style(0, true), kilometres, miles, nullptr);
+    input.init(nullptr);
+    input.start(&waiter);
+    input.handle_event(imperial);
+    input.handle_input(60);
+    EXPECT_NEAR(static_cast<double>(distance.get()), 96.56064, 1e-4);
+    EXPECT_EQ(waiter.deliver(), 0U) << "told, it would be held within 62, as if those were kilometres";
+    EXPECT_EQ(input.output_number.value, 60U);
+}
+
+TEST_F(NvNumberWidget, ShowsAnEntryThatWasNotOnTheScreen)
+{
+    field.start(&waiter);
+    field.handle_input_value(7); // handed over by the application
+    EXPECT_EQ(number.get(), 7);
+    EXPECT_EQ(waiter.deliver(), 1U);
+    EXPECT_EQ(field.get_value(), 7);
+}
+
+TEST_F(NvNumberWidget, ShowsWhatIsStoredAgainWhenUnitsSwitch)
+{
+    number.set(90);
+    Nv_number_widget<Double> distance(number, style(), kilometres, miles, nullptr);
+    distance.init(nullptr);
+    distance.start(&waiter);
+    distance.handle_event(imperial);
+    EXPECT_EQ(distance.get_value(), 62) << "held within the limits of the system shown";
+    EXPECT_EQ(distance.output_number.value, 39U);
+    distance.handle_event(metric);
+    EXPECT_EQ(distance.get_value(), 90);
+    EXPECT_EQ(distance.output_number.value, 90U);
+}
+
+TEST_F(NvNumberWidget, KeepsItsOwnValueWhenUnitsSwitchWhileItIsHidden)
+{
+    field.start(&waiter);
+    field.stop(&waiter);
+    number.set(90);
+    field.handle_event(imperial);
+    EXPECT_EQ(field.get_value(), 12);
+}
+
 TEST_F(NvNumberWidget, SharesANumberWithOthers)
 {
     Nv_number_widget<Double> other(number, style(), wide, nullptr);
     field.start(&waiter);
     other.start(&waiter);
-    field.handle_input_value(37);
+    field.handle_input(1'000'037);
     EXPECT_EQ(waiter.deliver(), 1U);
     EXPECT_EQ(other.get_value(), 37);
 }

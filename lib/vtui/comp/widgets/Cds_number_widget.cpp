@@ -33,13 +33,20 @@ template <class T>
 void Cds_number_widget<T>::handle_input_value(double v)
 {
     const T x = Conversion::to_number<T>(v);
-    Mixin::write(x, static_cast<double>(x) == v);
+    Mixin::write(x, looks_like(static_cast<double>(x)));
 }
 
 template <class T>
 void Cds_number_widget<T>::handle_cds_value(T v)
 {
     set_value(static_cast<double>(v));
+}
+
+template <class T>
+void Cds_number_widget<T>::handle_event(Units_man& units_man)
+{
+    const auto stored = static_cast<double>(Mixin::read());
+    follow(units_man, &stored);
 }
 
 #define VTUI_INSTANTIATE(T)                                                                                            \

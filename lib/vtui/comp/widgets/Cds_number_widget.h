@@ -27,11 +27,16 @@ class VTUI_EXPORT Cds_number_widget : public Number_widget, public Cds_widget_mi
                       VT::String_variable_obj* units_text);
     Cds_number_widget(CDS::Head& head, T& bound, const Style& style, VT::String_variable_obj* units_text);
 
-    /// Writes the store, not with its lock held. What T changes of the entry is shown by the next delivery; an entry
-    /// that is stored as it is stays on the screen as it was entered.
+    /// Writes the store, not with its lock held. The field keeps showing what was entered if what T makes of it looks
+    /// the same on the terminal; otherwise the next delivery shows what is stored.
     void handle_input_value(double v) override;
     /// Shows a value of the store.
     void handle_cds_value(T v);
+
+    using Number_widget::handle_event;
+    /// As that of Number_widget, but shows what the store holds, whatever limits have cut off the field's own value
+    /// before. Not with the store's lock held.
+    void handle_event(Units_man& units_man);
 };
 
 /// All types that T may be.

@@ -250,12 +250,17 @@ void Number_widget::set_value(double v)
     }
     value = v;
 
-    const double display = v * Units_man::get(system, s.units_type);
-    const double scale = input_number.scale;
-    const std::uint32_t raw = Conversion::to_uint32(std::rint(display / scale) - output_number.offset);
+    const std::uint32_t raw = to_raw(v);
     output_number.set_value(raw);
     if (is_child(input_number))
         input_number.set_value(raw);
+}
+
+std::uint32_t Number_widget::to_raw(double v) const
+{
+    const double display = v * Units_man::get(system, specifications[system].units_type);
+    const double scale = input_number.scale;
+    return Conversion::to_uint32(std::rint(display / scale) - output_number.offset);
 }
 
 void Number_widget::increment(double step)
@@ -292,11 +297,17 @@ void Number_widget::handle_event(const VT_information& terminal)
         std::swap(lowest.ref, placements.placements[number_slot].ref);
 }
 
-void Number_widget::handle_event(Units_man& units_man)
+void Number_widget::handle_event(Units_man& units_man) { follow(units_man, nullptr); }
+
+void Number_widget::follow(Units_man& units_man, const double* stored)
 {
-    for (const auto candidate : {Units_man::metric, Units_man::imperial, Units_man::us})
-        if (units_man.get_system_type(specifications[candidate].units_type) == candidate)
-            set_system(candidate); // of several the last one stays
+    for (const auto candidate : {Units_man::metric, Units_man::imperial, Units_man::us}) {
+        if (units_man.get_system_type(specifications[candidate].units_type) != candidate)
+            continue;
+        if (stored)
+            value = *stored;
+        set_system(candidate); // of several the last one stays
+    }
     set_size(size_of(container), layout_size, layout_origin);
     if (container.get_id() != VT::VT_obj::NULL_ID)
         container.upload(true);

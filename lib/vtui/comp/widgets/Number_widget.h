@@ -153,9 +153,18 @@ class VTUI_EXPORT Number_widget : public Widget
     Dimension layout_size;
     Point layout_origin;
 
+  protected:
+    /// True if `v`, engineering units, looks on the terminal as get_value() does: both are the same raw number there.
+    /// Limits do not count.
+    bool looks_like(double v) const { return to_raw(v) == to_raw(value); }
+    /// As handle_event(), and if a system is chosen the field shows `stored` there, if there is one: its own value may
+    /// have been cut by the limits of the system before.
+    void follow(Units_man& units_man, const double* stored);
+
   private:
     bool is_child(const VT::VT_obj& number);
     void show_units();
+    std::uint32_t to_raw(double v) const;
 };
 
 } // namespace VT::Comp

@@ -60,8 +60,8 @@ void Nv_number_widget<N>::handle_input_value(double v)
 {
     const auto x = Conversion::to_number<typename N::value_type>(v);
     Access::number().set(x);
-    // What is stored as it was entered is shown already. Otherwise it may have been stored before, and be no news.
-    if (static_cast<double>(x) == v)
+    // What looks as it was entered is shown already. Otherwise it may have been stored before, and be no news.
+    if (looks_like(static_cast<double>(x)))
         Access::settle(NV_store::to_bits(x));
     else
         Access::ask();
@@ -71,6 +71,14 @@ template <class N>
 void Nv_number_widget<N>::handle_event()
 {
     set_value(static_cast<double>(Access::read()));
+}
+
+template <class N>
+void Nv_number_widget<N>::handle_event(Units_man& units_man)
+{
+    // A field that nobody watches shows nothing new of the store.
+    const auto stored = static_cast<double>(Access::number().get());
+    follow(units_man, Access::is_registered() ? &stored : nullptr);
 }
 
 #define VTUI_INSTANTIATE(T, code) VTUI_NV_NUMBER_WIDGET(T, code)

@@ -38,9 +38,12 @@ class VTUI_EXPORT Nv_number_widget : public Number_widget, public NV_store::Acce
     using Number_widget::handle_event;
     /// start() or stop().
     void handle_event(Visible_event event);
+    /// As that of Number_widget, but between start() and stop() shows what is stored, whatever limits have cut off the
+    /// field's own value before.
+    void handle_event(Units_man& units_man);
 
-    /// Sets the stored number. What its type changes of the entry is shown by the next delivery; an entry that is
-    /// stored as it is stays on the screen as it was entered.
+    /// Sets the stored number. The field keeps showing what was entered if what the number's type makes of it looks the
+    /// same on the terminal; otherwise the next delivery shows what is stored.
     void handle_input_value(double v) override;
     /// Shows the stored number, which has changed.
     void handle_event() override;
