@@ -49,6 +49,28 @@ void write_numbers(benchmark::State& state)
 }
 BENCHMARK(write_numbers)->ArgNames({"numbers", "of"})->Args({1, 10})->Args({1, 1000})->Args({20, 1000});
 
+/// The same by a control loop that must not wait; the lock is free.
+void try_write_number(benchmark::State& state)
+{
+    Store store(1000);
+    double value = 0;
+    for (auto _ : state) {
+        ++value;
+        CDS::try_write(store.head, [&](CDS::Write& write) { write.set(store.numbers[500], value); });
+    }
+}
+BENCHMARK(try_write_number);
+
+/// And while somebody else holds the lock.
+void try_write_in_vain(benchmark::State& state)
+{
+    Store store(1000);
+    const CDS::Read busy(store.head);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(CDS::try_write(store.head, [](CDS::Write&) {}));
+}
+BENCHMARK(try_write_in_vain);
+
 /// Nothing is told of what does not change.
 void write_what_is_there(benchmark::State& state)
 {

@@ -28,6 +28,27 @@ bool overlap(const Access_base& access, unsigned offset, unsigned extent)
                                     : offset - access.offset() < std::max(access.extent(), 1U);
 }
 
+/// Holds the lock as long as it lives, for who may come with the lock held already.
+class Hold
+{
+  public:
+    explicit Hold(MutexImp& wanted) : lock(wanted.is_held_by_this_thread() ? nullptr : &wanted)
+    {
+        if (lock)
+            lock->hold();
+    }
+    ~Hold()
+    {
+        if (lock)
+            lock->release();
+    }
+    Hold(const Hold&) = delete;
+    Hold& operator=(const Hold&) = delete;
+
+  private:
+    MutexImp* lock;
+};
+
 [[noreturn]] void report_outside(std::int64_t offset, std::size_t extent, std::size_t size)
 {
     throw std::out_of_range("CDS: an access to " + std::to_string(extent) + " bytes at offset " +
@@ -38,7 +59,7 @@ bool overlap(const Access_base& access, unsigned offset, unsigned extent)
 
 Head::Head(void* data, std::size_t data_size) : begin(data), bytes(data_size)
 {
-    if (bytes > std::numeric_limits<unsigned>::max())
+    if (static_cast<unsigned>(bytes) != bytes) // offsets could not tell all of them apart
         throw std::length_error("CDS: data of " + std::to_string(bytes) + " bytes are too large for one store");
     cells.resize(bytes / cell_size + 1);
 }
@@ -79,22 +100,13 @@ void Head::event_signal(const void*, const void*, unsigned offset, unsigned exte
 std::size_t Head::deliver()
 {
     wake_up.clear();
-    std::size_t left = 0;
-    {
-        const std::lock_guard<std::mutex> lock(guard);
-        left = queued;
-    }
     // As many as there are now: those who change the data in answer would keep this going for ever.
+    const std::size_t most = read(*this, queued);
     std::size_t delivered = 0;
-    for (; left > 0; --left) {
-        Virt_access* listener = nullptr;
-        {
-            const std::lock_guard<std::mutex> lock(guard);
-            if (!first)
-                break;
-            listener = first->listener;
-            take(*first);
-        }
+    while (delivered < most) {
+        Virt_access* const listener = take_first();
+        if (!listener)
+            break;
         ++delivered;
         try {
             listener->handle_change(); // it may be gone after this
@@ -109,7 +121,7 @@ std::size_t Head::deliver()
 void Head::enter(Access_base& access)
 {
     {
-        const std::lock_guard<std::mutex> lock(guard);
+        const Hold lock(*this);
         access.next_in_cell = nullptr;
         *link_to(nullptr, access) = &access;
         append(access);
@@ -119,7 +131,7 @@ void Head::enter(Access_base& access)
 
 void Head::remove(Access_base& access)
 {
-    const std::lock_guard<std::mutex> lock(guard);
+    const Hold lock(*this);
     if (access.queued)
         take(access);
     *link_to(&access, access) = access.next_in_cell;
@@ -127,7 +139,7 @@ void Head::remove(Access_base& access)
 
 void Head::drop(Access_base& access)
 {
-    const std::lock_guard<std::mutex> lock(guard);
+    const Hold lock(*this);
     if (access.queued)
         take(access);
 }
@@ -135,7 +147,6 @@ void Head::drop(Access_base& access)
 bool Head::note(unsigned offset, unsigned extent)
 {
     extent = std::max(extent, 1U);
-    const std::lock_guard<std::mutex> lock(guard);
     bool is_somebody_concerned = false;
     const auto note_in = [&](Access_base* access) {
         for (; access; access = access->next_in_cell) {
@@ -178,6 +189,16 @@ void Head::take(Access_base& access)
     (access.next_in_queue ? access.next_in_queue->previous_in_queue : last) = access.previous_in_queue;
     access.queued = false;
     --queued;
+}
+
+Virt_access* Head::take_first()
+{
+    const Read lock(*this);
+    if (!first)
+        return nullptr;
+    Virt_access* const listener = first->listener;
+    take(*first);
+    return listener;
 }
 
 } // namespace CDS

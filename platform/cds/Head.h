@@ -15,6 +15,7 @@
 namespace CDS {
 
 class Access_base;
+class Virt_access;
 
 /// The head of the central data store: the lock of the application's own data, and the news of what changes there.
 ///
@@ -31,7 +32,8 @@ class VTUI_EXPORT Head : public MutexImp
     {
         static_assert(!std::is_base_of_v<MutexImp, Data>, "a store has one head");
     }
-    /// Allocates a pointer for every 16 bytes of data, and nothing after. Throws std::length_error from 4 GiB on.
+    /// Allocates a pointer for every 16 bytes of data and one more, and nothing after. Throws std::length_error from 4
+    /// GiB on.
     Head(void* data, std::size_t data_size);
     /// Accesses that are left have no store then.
     ~Head();
@@ -77,13 +79,13 @@ class VTUI_EXPORT Head : public MutexImp
     Access_base** link_to(const Access_base* wanted, const Access_base& place);
     void append(Access_base& access);
     void take(Access_base& access);
+    Virt_access* take_first(); ///< whom to call next; null if there is nobody
 
     void* begin;
     std::size_t bytes;
     Wake_up wake_up;
 
-    // Guards what follows and all of an access that is the store's. Taken while the lock is held, never the other way.
-    std::mutex guard;
+    // Read and written with the lock held, like all of an access that is the store's.
     std::vector<Access_base*> cells; ///< chains of the accesses that lie in one cell of the data
     Access_base* across{nullptr};    ///< the chain of those that lie in several
     Access_base* first{nullptr};     ///< to deliver, in this order
@@ -148,9 +150,28 @@ class VTUI_EXPORT Write
     }
 
   private:
+    template <class Change>
+    friend bool try_write(Head& head, Change&& change);
+
+    Write(Head& store, std::adopt_lock_t) : head(store) {}
+
     Head& head;
     bool news{false};
 };
+
+/// Changes variables without ever waiting, for a control loop of high priority: if the lock is free, calls
+/// change(write) with it held, otherwise nothing. Says whether it did.
+///
+///     CDS::try_write(head, [&](CDS::Write& write) { write.set(data.speed, 3.4); });
+template <class Change>
+bool try_write(Head& head, Change&& change)
+{
+    if (!head.try_hold())
+        return false;
+    Write write(head, std::adopt_lock);
+    change(write);
+    return true;
+}
 
 } // namespace CDS
 

@@ -22,10 +22,18 @@ pid_t this_kernel_thread() { return static_cast<pid_t>(syscall(SYS_gettid)); }
 
 void MutexImp::hold()
 {
+    if (try_hold())
+        return;
+    debug_lock();
+    write_holder_down();
+}
+
+bool MutexImp::try_hold()
+{
     if (!tryLock(0))
-        debug_lock();
-    qt_thread.store(QThread::currentThreadId(), std::memory_order_relaxed);
-    kernel_thread.store(this_kernel_thread(), std::memory_order_relaxed);
+        return false;
+    write_holder_down();
+    return true;
 }
 
 void MutexImp::release()
@@ -62,4 +70,10 @@ void MutexImp::unlock()
     TELL_SANITIZER(__tsan_mutex_pre_unlock(this, 0));
     QMutex::unlock();
     TELL_SANITIZER(__tsan_mutex_post_unlock(this, 0));
+}
+
+void MutexImp::write_holder_down()
+{
+    qt_thread.store(QThread::currentThreadId(), std::memory_order_relaxed);
+    kernel_thread.store(this_kernel_thread(), std::memory_order_relaxed);
 }

@@ -14,6 +14,8 @@ class VTUI_EXPORT MutexImp : public QMutex
   public:
     /// Takes the lock and writes its holder down. Waits for it if it has to, by debug_lock().
     void hold();
+    /// The same, but only if the lock is free. Never waits; says whether it took it.
+    bool try_hold();
     void release();
     /// Exact, and asks nobody else.
     bool is_held_by_this_thread() const;
@@ -31,6 +33,8 @@ class VTUI_EXPORT MutexImp : public QMutex
     std::atomic<pid_t> kernel_thread{0};
 
   private:
+    void write_holder_down();
+
     using QMutex::lock;
     using QMutex::try_lock;
     using QMutex::try_lock_for;

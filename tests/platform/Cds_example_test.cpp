@@ -17,11 +17,22 @@ struct Machine
 Machine machine{};
 CDS::Head store(machine);
 
-void step(double measured) // of a control loop, on a thread of its own
+void step(double measured) // of a control loop, on a thread of its own that may wait
 {
     CDS::Write write(store);
     write.set(machine.speed, measured);
     write.set(machine.area, machine.area + 24);
+}
+
+unsigned area = 0; // the control loop's own
+
+void step_in_time(double measured)
+{
+    area += 24;
+    CDS::try_write(store, [&](CDS::Write& write) {
+        write.set(machine.speed, measured);
+        write.set(machine.area, area);
+    });
 }
 
 class Speed_alarm : public CDS::Access<double, CDS::Virt_access>
@@ -54,6 +65,19 @@ TEST(CdsExample, DeliversWhatTheControlLoopWrites)
     const Machine now = CDS::read(store, machine);
     EXPECT_EQ(now.speed, 2);
     EXPECT_EQ(now.area, 48U);
+}
+
+TEST(CdsExample, CatchesUpWithWhatItCouldNotWriteInTime)
+{
+    machine = {};
+    {
+        const CDS::Read busy(store);
+        step_in_time(1);
+    }
+    EXPECT_EQ(machine.area, 0U);
+    step_in_time(2);
+    EXPECT_EQ(machine.speed, 2);
+    EXPECT_EQ(machine.area, 48U);
 }
 
 } // namespace

@@ -1,19 +1,40 @@
-#include "cds/Head.h"
+#include "cds/Access.h"
+#include "tests/platform/Readable.h"
 
 #include <QThread>
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <chrono>
-#include <csignal>
 #include <cstdio>
-#include <memory>
+#include <dlfcn.h>
+#include <functional>
+#include <future>
+#include <optional>
 #include <string>
 #include <sys/syscall.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
+#include <vector>
 
-using namespace std::chrono_literals;
+namespace {
+
+/// What happens while this thread waits for the lock, instead of the waiting; empty: it waits.
+std::function<void()> meanwhile;
+std::vector<int> patience; ///< for how long it asked for the lock, in milliseconds, each time
+
+} // namespace
+
+// As the program's own it comes before that of Qt, which it calls.
+bool QMutex::tryLock(int timeout)
+{
+    static const auto original = reinterpret_cast<bool (*)(QMutex*, int)>(dlsym(RTLD_NEXT, "_ZN6QMutex7tryLockEi"));
+    if (!meanwhile)
+        return original(this, timeout);
+    patience.push_back(timeout);
+    if (timeout != 0)
+        meanwhile();
+    return original(this, 0);
+}
 
 namespace {
 
@@ -35,27 +56,40 @@ class Holder
               lock.hold();
               qt_thread = QThread::currentThreadId();
               number = kernel_thread();
-              ready = true;
-              while (!let_go)
-                  std::this_thread::sleep_for(1ms);
+              ready.set_value();
+              end.get_future().wait();
               lock.release();
           })
     {
-        while (!ready)
-            std::this_thread::sleep_for(1ms);
+        ready.get_future().wait();
     }
     ~Holder()
     {
-        let_go = true;
+        end.set_value();
         thread.join();
     }
 
     void* qt_thread{nullptr};
     pid_t number{0};
-    std::atomic<bool> ready{false};
-    std::atomic<bool> let_go{false};
+
+  private:
+    std::promise<void> ready;
+    std::promise<void> end;
     std::thread thread;
 };
+
+/// What is said on standard error while this thread gets the lock by an operation; in answer to each wait for it
+/// `answer` is called.
+template <class Operation>
+std::string said_by(Operation operation, std::function<void()> answer)
+{
+    patience.clear();
+    meanwhile = std::move(answer);
+    testing::internal::CaptureStderr();
+    operation();
+    meanwhile = nullptr;
+    return testing::internal::GetCapturedStderr();
+}
 
 TEST(CdsLock, IsFreeAndHasNoHolderAtFirst)
 {
@@ -99,56 +133,61 @@ TEST(CdsLock, HeldByAnotherThreadIsNotHeldByThisOne)
 TEST(CdsLock, IsWaitedForInSilenceUpToASecond)
 {
     MutexImp lock;
-    auto other = std::make_unique<Holder>(lock);
-    std::thread releasing([&] {
-        std::this_thread::sleep_for(200ms);
-        other->let_go = true;
-    });
-    testing::internal::CaptureStderr();
-    lock.debug_lock();
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    std::optional<Holder> other(lock);
+    EXPECT_EQ(said_by([&] { lock.debug_lock(); }, [&] { other.reset(); }), "");
+    EXPECT_EQ(patience, std::vector<int>{1000});
     EXPECT_FALSE(lock.is_held_by_this_thread()) << "that is for whoever took it to write down";
-    releasing.join();
     lock.unlock();
 }
 
 TEST(CdsLock, SaysWhoHoldsItForEachSecondOfWaitingAndGoesOnWaiting)
 {
     MutexImp lock;
-    const auto begin = std::chrono::steady_clock::now();
-    auto other = std::make_unique<Holder>(lock);
+    std::optional<Holder> other(lock);
     const std::string holder = " s for the lock of Qt thread " + address(other->qt_thread) + ", kernel thread " +
                                std::to_string(other->number) + "\n";
-    std::thread releasing([&] {
-        std::this_thread::sleep_for(2500ms);
-        other->let_go = true;
-    });
-    testing::internal::CaptureStderr();
-    lock.hold();
-    const std::string said = testing::internal::GetCapturedStderr();
-    EXPECT_GE(std::chrono::steady_clock::now() - begin, 2500ms);
-    EXPECT_TRUE(lock.is_held_by_this_thread());
-    releasing.join();
-    lock.release();
-
+    const auto let_go_at_last = [&] {
+        if (patience.size() == 4)
+            other.reset();
+    };
     const std::string waiting = "CDS: kernel thread " + std::to_string(kernel_thread()) + " has waited ";
-    EXPECT_EQ(said, waiting + "1" + holder + waiting + "2" + holder);
+    EXPECT_EQ(said_by([&] { lock.hold(); }, let_go_at_last), waiting + "1" + holder + waiting + "2" + holder);
+    EXPECT_EQ(patience, (std::vector<int>{0, 1000, 1000, 1000}));
+    EXPECT_TRUE(lock.is_held_by_this_thread());
+    EXPECT_EQ(lock.kernel_thread, kernel_thread());
+    lock.release();
 }
 
-/// Asks for its own lock, for three seconds.
-void wait_for_itself()
+TEST(CdsLock, SaysThatAThreadWaitsForItself)
 {
     MutexImp lock;
     lock.hold();
-    alarm(3);
-    lock.hold();
+    const std::string self = std::to_string(kernel_thread());
+    const std::string holder = address(QThread::currentThreadId()) + ", kernel thread " + self;
+    const auto let_go_at_last = [&] {
+        if (patience.size() == 3)
+            lock.release();
+    };
+    EXPECT_EQ(said_by([&] { lock.hold(); }, let_go_at_last), "CDS: kernel thread " + self +
+                                                                 " has waited 1 s for the lock of Qt thread " + holder +
+                                                                 ", which is itself\n");
+    lock.release();
 }
 
-TEST(CdsLockDeathTest, AThreadThatWaitsForItselfSaysSo)
+TEST(CdsLock, IsTakenWithoutWaitingOnlyIfItIsFree)
 {
-    EXPECT_EXIT(wait_for_itself(), testing::KilledBySignal(SIGALRM),
-                "^CDS: kernel thread [0-9]+ has waited 1 s for the lock of Qt thread 0x[0-9a-f]+, kernel thread "
-                "[0-9]+, which is itself\n");
+    MutexImp lock;
+    {
+        const Holder other(lock);
+        EXPECT_FALSE(lock.try_hold()) << "while another holds it, for this test";
+        EXPECT_EQ(lock.qt_thread, other.qt_thread);
+        EXPECT_EQ(lock.kernel_thread, other.number);
+    }
+    EXPECT_TRUE(lock.try_hold());
+    EXPECT_TRUE(lock.is_held_by_this_thread());
+    EXPECT_EQ(lock.kernel_thread, kernel_thread());
+    EXPECT_FALSE(lock.try_hold()) << "not even by who holds it";
+    lock.release();
 }
 
 TEST(CdsLock, IsHeldByAReaderAndByAWriterAsLongAsTheyLive)
@@ -169,24 +208,102 @@ TEST(CdsLock, IsHeldByAReaderAndByAWriterAsLongAsTheyLive)
     head.unlock();
 }
 
-TEST(CdsLock, ForgetsItsHolderBeforeTheNextOneHasIt)
+/// A store, somebody who watches it, and a control loop that must not wait.
+class CdsTryWrite : public testing::Test
 {
-    MutexImp lock;
-    std::atomic<int> forgotten{0};
-    std::thread threads[2];
-    for (std::thread& thread : threads)
-        thread = std::thread([&] {
-            for (int i = 0; i < 50'000; ++i) {
-                lock.hold();
-                for (int look = 0; look < 20; ++look)
-                    if (!lock.is_held_by_this_thread() || lock.qt_thread != QThread::currentThreadId())
-                        ++forgotten;
-                lock.release();
-            }
+  protected:
+    struct Watch final : CDS::Access<int, CDS::Virt_access>
+    {
+        using Access::Access;
+        void handle_change() override
+        {
+            if (answer)
+                answer();
+        }
+        std::function<void()> answer;
+    };
+
+    CdsTryWrite() { head.deliver(); }
+
+    bool try_write(int value)
+    {
+        return CDS::try_write(head, [&](CDS::Write& write) {
+            ++calls;
+            EXPECT_TRUE(head.is_held_by_this_thread());
+            EXPECT_EQ(head.kernel_thread, kernel_thread());
+            write.set(data, value);
         });
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_EQ(forgotten, 0);
+    }
+
+    bool is_free()
+    {
+        const bool free = head.tryLock();
+        if (free)
+            head.unlock();
+        return free;
+    }
+
+    int data{0};
+    CDS::Head head{data};
+    Watch watch{head, data};
+    int calls{0};
+};
+
+TEST_F(CdsTryWrite, WritesLikeAnyOtherIfTheLockIsFree)
+{
+    EXPECT_TRUE(try_write(7));
+    EXPECT_EQ(data, 7);
+    EXPECT_TRUE(is_readable(head.descriptor()));
+    EXPECT_EQ(head.deliver(), 1U);
+    EXPECT_FALSE(head.is_held_by_this_thread());
+    EXPECT_TRUE(is_free());
+}
+
+TEST_F(CdsTryWrite, ComesBackWithNothingDoneWhileAnotherThreadHoldsTheLock)
+{
+    {
+        const Holder other(head); // as long as this lives
+        EXPECT_FALSE(try_write(7));
+        EXPECT_FALSE(is_free());
+    }
+    EXPECT_EQ(calls, 0);
+    EXPECT_EQ(data, 0);
+    EXPECT_FALSE(is_readable(head.descriptor()));
+    EXPECT_TRUE(try_write(7)) << "the next time";
+    EXPECT_EQ(data, 7);
+}
+
+TEST_F(CdsTryWrite, AsksForTheLockOnceAndWithoutPatience)
+{
+    const Holder other(head);
+    EXPECT_EQ(said_by([&] { EXPECT_FALSE(try_write(7)); }, [] {}), "");
+    EXPECT_EQ(patience, std::vector<int>{0});
+}
+
+TEST_F(CdsTryWrite, ComesBackWithNothingDoneInsideAWriteOfItsOwnThread)
+{
+    CDS::Write write(head);
+    EXPECT_FALSE(try_write(7));
+    EXPECT_TRUE(head.is_held_by_this_thread());
+    EXPECT_EQ(calls, 0);
+}
+
+TEST_F(CdsTryWrite, WritesWhileAListenerIsBusy)
+{
+    bool written = false;
+    watch.answer = [&] { std::thread([&] { written = try_write(7); }).join(); };
+    try_write(1);
+    EXPECT_EQ(head.deliver(), 1U);
+    EXPECT_TRUE(written);
+    EXPECT_EQ(data, 7);
+}
+
+TEST_F(CdsTryWrite, LetsTheLockGoWhenTheChangeThrows)
+{
+    int elsewhere = 0;
+    EXPECT_THROW(CDS::try_write(head, [&](CDS::Write& write) { write.set(elsewhere, 1); }), std::out_of_range);
+    EXPECT_TRUE(is_free());
+    EXPECT_FALSE(head.is_held_by_this_thread());
 }
 
 } // namespace

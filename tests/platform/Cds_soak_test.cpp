@@ -38,6 +38,8 @@ struct Data
     unsigned long long ull;
     long long count;   ///< these two and the array are written together
     double same_count; ///< as `count`
+    long long cycles;  ///< and these two
+    double same_cycles;
     int many[20];
 };
 
@@ -168,12 +170,27 @@ class CdsSoak : public testing::Test
         }
     }
 
+    /// A control loop that must not wait: what it could not write in one cycle it writes in another.
+    void write_in_time()
+    {
+        bool written = false;
+        for (long long cycle = 1; cycle <= 300 || !written; ++cycle) {
+            written = CDS::try_write(head, [&](CDS::Write& writing) {
+                writing.set(data.i, static_cast<int>(cycle));
+                writing.set(data.cycles, cycle);
+                writing.set(data.same_cycles, static_cast<double>(cycle));
+            });
+            std::this_thread::yield();
+        }
+    }
+
     /// Counts how often it saw what was written together come apart.
     void read(const std::atomic<bool>& stop)
     {
         while (!stop) {
             const Data copy = CDS::read(head, data);
-            if (static_cast<double>(copy.count) != copy.same_count)
+            if (static_cast<double>(copy.count) != copy.same_count ||
+                static_cast<double>(copy.cycles) != copy.same_cycles)
                 ++torn;
             std::this_thread::yield();
         }
@@ -214,13 +231,17 @@ TEST_F(CdsSoak, EveryFieldShowsTheLastValueAfterEveryStorm)
     std::thread reader([&] { read(stop); });
     std::size_t storms = 0;
     do {
-        std::atomic<int> writing{3};
+        std::atomic<int> writing{4};
         std::vector<std::thread> writers;
         for (int i = 0; i < 3; ++i)
             writers.emplace_back([&, seed = static_cast<unsigned>(3 * storms) + static_cast<unsigned>(i) + 1] {
                 write(seed);
                 --writing;
             });
+        writers.emplace_back([&] {
+            write_in_time();
+            --writing;
+        });
         std::unique_ptr<Field> passing;
         while (writing > 0) {
             serve(1ms);
@@ -235,6 +256,7 @@ TEST_F(CdsSoak, EveryFieldShowsTheLastValueAfterEveryStorm)
             serve(0ms);
         for (const auto& field : fields)
             field->expect_last_value();
+        EXPECT_GE(data.cycles, 300);
         ++storms;
     } while (std::chrono::steady_clock::now() < end && !HasFailure());
     stop = true;
