@@ -5,13 +5,16 @@
 
 namespace {
 std::size_t count;
-}
+std::size_t bytes;
+} // namespace
 
 std::size_t allocations() { return count; }
+std::size_t allocated_bytes() { return bytes; }
 
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     ++count;
+    bytes += size;
     return std::malloc(size ? size : 1);
 }
 

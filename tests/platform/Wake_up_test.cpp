@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <thread>
 
@@ -38,6 +39,18 @@ TEST(WakeUp, MayBeClearedWhenItIsNotSet)
     EXPECT_FALSE(is_readable(wake_up.descriptor()));
     wake_up.set();
     EXPECT_TRUE(is_readable(wake_up.descriptor()));
+}
+
+TEST(WakeUp, KeepsItsDescriptorFromProgramsThatThisOneStarts)
+{
+    const Wake_up wake_up;
+    EXPECT_EQ(fcntl(wake_up.descriptor(), F_GETFD), FD_CLOEXEC);
+}
+
+TEST(WakeUp, GivesItsDescriptorBack)
+{
+    const int descriptor = Wake_up().descriptor();
+    EXPECT_EQ(fcntl(descriptor, F_GETFD), -1);
 }
 
 TEST(WakeUp, SaysThatThereIsNoDescriptorLeft)
