@@ -30,7 +30,6 @@ void Access_base::leave()
     if (registered)
         store->remove(*this);
     registered = false;
-    store = nullptr;
 }
 
 } // namespace CDS

@@ -21,7 +21,7 @@ unsigned last_cell(unsigned offset, unsigned extent)
     return (offset + reach) / cell_size;
 }
 
-/// True if one begins in the other.
+/// True if one begins in the other. Each is at least one byte long.
 bool overlap(const Access_base& access, unsigned offset, unsigned extent)
 {
     return offset < access.offset() ? access.offset() - offset < extent
@@ -78,7 +78,7 @@ Head::~Head()
 
 void Head::check(unsigned offset, std::size_t extent) const
 {
-    if (offset > bytes || extent > bytes - offset)
+    if (!holds(offset, extent))
         report_outside(offset, extent, bytes);
 }
 
@@ -86,9 +86,14 @@ unsigned Head::offset_of(const void* variable, std::size_t extent) const
 {
     // As numbers: addresses in unrelated memory have no distance.
     const auto distance = reinterpret_cast<std::uintptr_t>(variable) - reinterpret_cast<std::uintptr_t>(begin);
-    if (distance > bytes || extent > bytes - distance)
+    if (!holds(distance, extent))
         report_outside(static_cast<std::intptr_t>(distance), extent, bytes);
     return static_cast<unsigned>(distance);
+}
+
+bool Head::holds(std::uintptr_t offset, std::size_t extent) const
+{
+    return offset <= bytes && extent <= bytes - offset;
 }
 
 void Head::event_signal(const void*, const void*, unsigned offset, unsigned extent, const void*)
@@ -146,7 +151,6 @@ void Head::drop(Access_base& access)
 
 bool Head::note(unsigned offset, unsigned extent)
 {
-    extent = std::max(extent, 1U);
     bool is_somebody_concerned = false;
     const auto note_in = [&](Access_base* access) {
         for (; access; access = access->next_in_cell) {

@@ -6,6 +6,7 @@
 #include "threads/Wake_up.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <memory>
 #include <mutex>
@@ -69,6 +70,7 @@ class VTUI_EXPORT Head : public MutexImp
     friend class Write;
 
     unsigned offset_of(const void* variable, std::size_t extent) const;
+    bool holds(std::uintptr_t offset, std::size_t extent) const;
     void enter(Access_base& access);
     void remove(Access_base& access);
     void drop(Access_base& access); ///< is not delivered to, unless something changes again

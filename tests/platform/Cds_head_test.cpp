@@ -82,6 +82,22 @@ TEST_F(CdsHead, KnowsWhereTheDataLie)
     EXPECT_EQ(head.offset_of(data), 0U);
 }
 
+TEST_F(CdsHead, WatchesANumberByItsFirstByteAndAStructureByAll)
+{
+    const Listener<double> east(head, data.position.east);
+    EXPECT_EQ(east.access.head(), &head);
+    EXPECT_EQ(east.access.offset(), offsetof(Machine, position) + sizeof(double));
+    EXPECT_EQ(east.access.extent(), 1U);
+    EXPECT_EQ(east.variable, &data.position.east);
+    const Listener<Position> position(head, data.position);
+    EXPECT_EQ(position.access.offset(), offsetof(Machine, position));
+    EXPECT_EQ(position.access.extent(), sizeof(Position));
+    const CDS::Access_base nowhere;
+    EXPECT_EQ(nowhere.head(), nullptr);
+    EXPECT_EQ(nowhere.offset(), 0U);
+    EXPECT_EQ(nowhere.extent(), 0U);
+}
+
 TEST_F(CdsHead, TellsAnAccessOnceForAStart)
 {
     data.speed = 7;
@@ -213,6 +229,8 @@ TEST_F(CdsHead, LooksAtNobodyWhoWatchesElsewhere)
     {
         Watch watch;
         CDS::Access_base before{watch};
+        CDS::Access_base just_before{watch};
+        CDS::Access_base empty{watch};
         CDS::Access_base behind{watch};
     };
     char bytes[48] = {};
@@ -222,8 +240,10 @@ TEST_F(CdsHead, LooksAtNobodyWhoWatchesElsewhere)
     ASSERT_NE(memory, MAP_FAILED);
     auto* const elsewhere = new (memory) Elsewhere;
     elsewhere->before.init(CDS::Access_base(&store, 0, 16));
+    elsewhere->just_before.init(CDS::Access_base(&store, 15, 1));
+    elsewhere->empty.init(CDS::Access_base(&store, 15, 0));
     elsewhere->behind.init(CDS::Access_base(&store, 32, 16));
-    EXPECT_EQ(store.deliver(), 2U);
+    EXPECT_EQ(store.deliver(), 4U);
     const auto change_between = [&] {
         mprotect(memory, page, PROT_NONE); // who looks at them now does not survive it
         {
@@ -354,6 +374,9 @@ TEST_F(CdsHead, DeliversInTheOrderOfTheChanges)
     write(data.pressure, 1);
     head.deliver();
     EXPECT_EQ(order, "asp");
+    write(data.speed, 2);
+    head.deliver();
+    EXPECT_EQ(order, "asps");
 }
 
 TEST_F(CdsHead, DeliversAChangeInTheOrderInWhichAccessesRegistered)
@@ -436,6 +459,17 @@ TEST_F(CdsHead, DoesNotCallAnAccessThatWasDestroyedOnTheWay)
     EXPECT_EQ(pressure.heard, 2);
     write(data.speed, 2);
     EXPECT_EQ(head.deliver(), 0U);
+}
+
+TEST_F(CdsHead, CallsTheOthersWhenOneIsDestroyedThatHasNothingToHear)
+{
+    Listener<float> pressure(head, data.pressure);
+    auto speed = std::make_unique<Listener<double>>(head, data.speed);
+    head.deliver();
+    write(data.pressure, 1);
+    speed.reset();
+    EXPECT_EQ(head.deliver(), 1U);
+    EXPECT_EQ(pressure.heard, 2);
 }
 
 TEST_F(CdsHead, DoesNotCallAnAccessThatAnothersNotificationDestroys)
@@ -523,6 +557,18 @@ TEST_F(CdsHead, RefusesAPlaceOutsideOfTheDataAndKeepsTheOneBefore)
                  std::out_of_range);
     write(data.speed, 1);
     EXPECT_EQ(head.deliver(), 1U);
+}
+
+TEST_F(CdsHead, TakesAnEmptyPlaceAsOneByte)
+{
+    Listener<double> speed(head, data.speed);
+    speed.access.init(CDS::Access_base(&head, head.offset_of(data.boom), 0));
+    head.deliver();
+    write(data.boom, 1);
+    EXPECT_EQ(head.deliver(), 1U);
+    write(data.section, 1);
+    EXPECT_EQ(head.deliver(), 0U);
+    EXPECT_NO_THROW(speed.access.init(CDS::Access_base(&head, sizeof data, 0))) << "behind the last byte";
 }
 
 TEST_F(CdsHead, RefusesToWriteOutsideOfTheDataAndIsFreeThen)

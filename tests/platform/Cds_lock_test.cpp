@@ -183,7 +183,7 @@ TEST(CdsLock, IsTakenWithoutWaitingOnlyIfItIsFree)
         EXPECT_EQ(lock.qt_thread, other.qt_thread);
         EXPECT_EQ(lock.kernel_thread, other.number);
     }
-    EXPECT_TRUE(lock.try_hold());
+    ASSERT_TRUE(lock.try_hold());
     EXPECT_TRUE(lock.is_held_by_this_thread());
     EXPECT_EQ(lock.kernel_thread, kernel_thread());
     EXPECT_FALSE(lock.try_hold()) << "not even by who holds it";
@@ -277,6 +277,8 @@ TEST_F(CdsTryWrite, AsksForTheLockOnceAndWithoutPatience)
 {
     const Holder other(head);
     EXPECT_EQ(said_by([&] { EXPECT_FALSE(try_write(7)); }, [] {}), "");
+    EXPECT_EQ(patience, std::vector<int>{0});
+    EXPECT_EQ(said_by([&] { EXPECT_FALSE(head.tryLock()); }, [] {}), "");
     EXPECT_EQ(patience, std::vector<int>{0});
 }
 

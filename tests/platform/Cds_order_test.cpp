@@ -199,6 +199,28 @@ TEST(CdsOrder, TheHolderIsForgottenBeforeTheLockIsFree)
     EXPECT_TRUE(at_unlock.forgotten);
 }
 
+TEST(CdsOrder, TheStoreLooksAfterItsAccessesWithTheLockHeld)
+{
+    struct Watch final : CDS::Access<int, CDS::Virt_access>
+    {
+        using Access::Access;
+        void handle_change() override {}
+    };
+    int data = 5;
+    CDS::Head head(data);
+    const AtUnlock at_unlock(head, data);
+    {
+        Watch watch(head, data);
+        EXPECT_EQ(at_unlock.times, 1);
+        head.deliver();
+        EXPECT_EQ(at_unlock.times, 3) << "to count them, and to take one";
+        watch.access.settle();
+        EXPECT_EQ(at_unlock.times, 4);
+    }
+    EXPECT_EQ(at_unlock.times, 5);
+    EXPECT_TRUE(at_unlock.forgotten);
+}
+
 /// A variable of which a copy says who held the lock while it was made.
 struct Witness
 {

@@ -47,6 +47,20 @@ TEST(WakeUp, KeepsItsDescriptorFromProgramsThatThisOneStarts)
     EXPECT_EQ(fcntl(wake_up.descriptor(), F_GETFD), FD_CLOEXEC);
 }
 
+TEST(WakeUp, TakesWhateverDescriptorIsFree)
+{
+    const int input = dup(STDIN_FILENO);
+    close(STDIN_FILENO); // as in a service that was started without it
+    {
+        Wake_up wake_up;
+        EXPECT_EQ(wake_up.descriptor(), 0);
+        wake_up.set();
+        EXPECT_TRUE(is_readable(wake_up.descriptor()));
+    }
+    dup2(input, STDIN_FILENO);
+    close(input);
+}
+
 TEST(WakeUp, GivesItsDescriptorBack)
 {
     const int descriptor = Wake_up().descriptor();
