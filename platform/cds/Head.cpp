@@ -78,7 +78,7 @@ Head::~Head()
 
 void Head::check(unsigned offset, std::size_t extent) const
 {
-    if (!holds(offset, extent))
+    if (!contains(offset, extent))
         report_outside(offset, extent, bytes);
 }
 
@@ -86,12 +86,12 @@ unsigned Head::offset_of(const void* variable, std::size_t extent) const
 {
     // As numbers: addresses in unrelated memory have no distance.
     const auto distance = reinterpret_cast<std::uintptr_t>(variable) - reinterpret_cast<std::uintptr_t>(begin);
-    if (!holds(distance, extent))
+    if (!contains(distance, extent))
         report_outside(static_cast<std::intptr_t>(distance), extent, bytes);
     return static_cast<unsigned>(distance);
 }
 
-bool Head::holds(std::uintptr_t offset, std::size_t extent) const
+bool Head::contains(std::uintptr_t offset, std::size_t extent) const
 {
     return offset <= bytes && extent <= bytes - offset;
 }

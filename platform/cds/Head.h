@@ -23,8 +23,9 @@ class Virt_access;
 ///     struct Machine { double speed; unsigned area; } data;
 ///     CDS::Head head(data);
 ///
-/// Any thread reads (Read) and writes (Write). One thread delivers: the one that owns the screens. It waits for
-/// descriptor() and calls deliver(), and only there do accesses hear of changes. The data stay the application's.
+/// Any thread reads (Read) and writes (Write, or try_write, which never waits). One thread delivers: the one that owns
+/// the screens. It waits for descriptor() and calls deliver(), and only there do accesses hear of changes. The data
+/// stay the application's.
 class VTUI_EXPORT Head : public MutexImp
 {
   public:
@@ -70,7 +71,7 @@ class VTUI_EXPORT Head : public MutexImp
     friend class Write;
 
     unsigned offset_of(const void* variable, std::size_t extent) const;
-    bool holds(std::uintptr_t offset, std::size_t extent) const;
+    bool contains(std::uintptr_t offset, std::size_t extent) const;
     void enter(Access_base& access);
     void remove(Access_base& access);
     void drop(Access_base& access); ///< is not delivered to, unless something changes again

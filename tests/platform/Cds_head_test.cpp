@@ -69,6 +69,13 @@ class CdsHead : public testing::Test
         writing.set(variable, value);
     }
 
+    /// Something changes at a place.
+    static void signal(CDS::Head& store, unsigned offset, unsigned extent)
+    {
+        const CDS::Read lock(store);
+        store.event_signal(nullptr, nullptr, offset, extent, nullptr);
+    }
+
     Machine data{};
     CDS::Head head{data};
 };
@@ -204,15 +211,16 @@ TEST_F(CdsHead, FindsEveryPlaceByEveryPlaceThatOverlapsIt)
     constexpr unsigned size = 70;
     char bytes[size] = {};
     CDS::Head store(bytes);
-    for (unsigned watched = 1; watched <= 40; watched += 3)
+    constexpr unsigned extents[] = {1, 2, 15, 16, 17, 40};
+    for (const unsigned watched : extents)
         for (unsigned at = 0; at + watched <= size; ++at) {
             Watch watch;
             CDS::Access_base access(watch);
             access.init(CDS::Access_base(&store, at, watched));
             store.deliver();
-            for (unsigned changed = 1; changed <= 40; changed += 3)
+            for (const unsigned changed : extents)
                 for (unsigned from = 0; from + changed <= size; ++from) {
-                    store.event_signal(bytes + from, bytes + from, from, changed, nullptr);
+                    signal(store, from, changed);
                     const bool concerned = from < at + watched && at < from + changed;
                     ASSERT_EQ(store.deliver(), concerned ? 1U : 0U) << at << ' ' << watched << ' ' << from;
                 }
@@ -246,10 +254,7 @@ TEST_F(CdsHead, LooksAtNobodyWhoWatchesElsewhere)
     EXPECT_EQ(store.deliver(), 4U);
     const auto change_between = [&] {
         mprotect(memory, page, PROT_NONE); // who looks at them now does not survive it
-        {
-            const CDS::Read lock(store);
-            store.event_signal(bytes + 16, bytes + 16, 16, 16, nullptr);
-        }
+        signal(store, 16, 16);
         std::_Exit(is_readable(store.descriptor()) ? 1 : 0);
     };
     EXPECT_EXIT(change_between(), testing::ExitedWithCode(0), "");
@@ -261,12 +266,12 @@ TEST_F(CdsHead, TakesSignalsOfPlacesThatItDoesNotHave)
 {
     Listener<long long> area(head, data.area);
     head.deliver();
-    head.event_signal(nullptr, nullptr, 1000000, 1, nullptr);
-    head.event_signal(nullptr, nullptr, std::numeric_limits<unsigned>::max(), 1, nullptr);
+    signal(head, 1000000, 1);
+    signal(head, std::numeric_limits<unsigned>::max(), 1);
     EXPECT_EQ(head.deliver(), 0U);
-    head.event_signal(nullptr, nullptr, 8, std::numeric_limits<unsigned>::max(), nullptr);
+    signal(head, 8, std::numeric_limits<unsigned>::max());
     EXPECT_EQ(head.deliver(), 1U);
-    head.event_signal(nullptr, nullptr, head.offset_of(data.area), 0, nullptr);
+    signal(head, head.offset_of(data.area), 0);
     EXPECT_EQ(head.deliver(), 1U) << "as if it had one byte";
 }
 

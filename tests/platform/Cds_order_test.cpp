@@ -153,12 +153,13 @@ TEST(CdsOrder, AWidgetSignalsNothingWhenItReads)
 class AtUnlock
 {
   public:
-    AtUnlock(const CDS::Head& head, const int& variable)
+    AtUnlock(CDS::Head& head, const int& variable)
     {
         watched_lock = &head;
         before_unlock = [this, &head, &variable] {
             ++times;
             stored = variable;
+            held = held && !head.QMutex::tryLock(0);
             forgotten = forgotten && head.qt_thread == nullptr && head.kernel_thread == 0;
         };
     }
@@ -168,6 +169,7 @@ class AtUnlock
 
     int times{0};
     int stored{0};
+    bool held{true};      ///< still
     bool forgotten{true}; ///< who held the lock, by both names
 };
 
@@ -180,6 +182,7 @@ TEST(CdsOrder, AWidgetHasStoredBeforeTheLockIsFree)
     widget.handle_input_value(7);
     EXPECT_EQ(at_unlock.times, 1);
     EXPECT_EQ(at_unlock.stored, 7);
+    EXPECT_TRUE(at_unlock.held);
 }
 
 TEST(CdsOrder, TheHolderIsForgottenBeforeTheLockIsFree)
@@ -218,6 +221,7 @@ TEST(CdsOrder, TheStoreLooksAfterItsAccessesWithTheLockHeld)
         EXPECT_EQ(at_unlock.times, 4);
     }
     EXPECT_EQ(at_unlock.times, 5);
+    EXPECT_TRUE(at_unlock.held);
     EXPECT_TRUE(at_unlock.forgotten);
 }
 
