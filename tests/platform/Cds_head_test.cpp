@@ -675,11 +675,10 @@ TEST_F(CdsHead, KeepsAPlaceWithoutAListenerToItself)
 
 TEST_F(CdsHead, LeavesAccessesWithoutAStoreWhenItGoesFirst)
 {
-    Position position{};
-    auto store = std::make_unique<CDS::Head>(position);
-    Listener<double> one(*store, position.north);
-    Listener<double> two(*store, position.east);
-    Listener<Position> across(*store, position);
+    auto store = std::make_unique<CDS::Head>(data);
+    Listener<double> one(*store, data.speed);
+    Listener<double> two(*store, data.speed);
+    Listener<Machine> across(*store, data);
     store.reset();
     EXPECT_EQ(one.access.head(), nullptr);
     EXPECT_EQ(two.access.head(), nullptr);

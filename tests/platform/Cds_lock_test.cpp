@@ -179,7 +179,7 @@ TEST(CdsLock, IsTakenWithoutWaitingOnlyIfItIsFree)
     MutexImp lock;
     {
         const Holder other(lock);
-        EXPECT_FALSE(lock.try_hold()) << "while another holds it, for this test";
+        EXPECT_FALSE(lock.try_hold());
         EXPECT_EQ(lock.qt_thread, other.qt_thread);
         EXPECT_EQ(lock.kernel_thread, other.number);
     }
