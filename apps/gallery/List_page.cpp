@@ -1,5 +1,7 @@
 #include "apps/gallery/List_page.h"
 
+#include <algorithm>
+
 namespace gallery {
 
 using namespace VT::Comp;
@@ -56,8 +58,18 @@ void List_page::step(void (List::*select)())
 
 void List_page::say_what_is_chosen() { chosen.format("%s", nozzles[list.get_selected_item()]); }
 
+/// A terminal may name any object: a button that is hidden has no nozzle to choose.
+bool List_page::shows_button(Iso::Object_id id) const
+{
+    return std::any_of(list.items.begin(), list.items.end(), [id](const VT::Comp::Toggle_button_widget& button) {
+        return button.is_button_id(id) && !button.is_hidden();
+    });
+}
+
 void List_page::handle_event(VT::Button_activation_event& event)
 {
+    if (!shows_button(event.object_id))
+        return;
     list.handle_event(event);
     if (event.activation_code == Iso::Activation::released && list.was_last_button())
         say_what_is_chosen();

@@ -30,6 +30,7 @@ class List_page final : public Page
     void build_list();
     void step(void (List::*select)());
     void say_what_is_chosen();
+    bool shows_button(Iso::Object_id id) const;
 
     std::deque<Caption> entries;
     List list;

@@ -1,3 +1,4 @@
+#include "tests/Bytes.h"
 #include "tests/gallery/Operator.h"
 
 #include <gtest/gtest.h>
@@ -490,6 +491,58 @@ TEST(GalleryOperation, TheListIsChosenFromByFingerAndByKeys)
     expect_chosen("ISO 06");
     op.use(Operator::item_down);
     expect_chosen("ISO 06");
+}
+
+/// A button is released that the terminal does not show.
+TEST(GalleryOperation, AHiddenButtonOfTheListChoosesNothing)
+{
+    Operator op;
+    op.turn_to("list");
+    std::vector<std::string> before;
+    for (const Operator::Shown& shown : op.screen())
+        before.push_back(shown.text);
+
+    const terminal::Object_pool& objects = op.link.terminal.pool();
+    int hidden = 0;
+    for (const terminal::Child list : op.link.terminal.active_mask().children())
+        for (const terminal::Child item : objects.find(list.id).children()) {
+            const terminal::Object container = objects.find(item.id);
+            if (!container.is(Iso::Object_type::container) || container.u8(terminal::Field::hidden) == 0)
+                continue;
+            for (const terminal::Child part : container.children())
+                if (objects.find(part.id).is(Iso::Object_type::button)) {
+                    const Bytes released = frame(1, 0, w(part.id), w(op.link.terminal.active_mask().id()), 1);
+                    op.gallery.pool().receive(released.data(), released.size());
+                    ++hidden;
+                }
+        }
+    EXPECT_EQ(hidden, 43);
+
+    std::vector<std::string> after;
+    for (const Operator::Shown& shown : op.screen())
+        after.push_back(shown.text);
+    EXPECT_EQ(after, before);
+    op.use(Operator::item_up);
+    EXPECT_EQ(op.count([](const Operator::Shown& shown) { return shown.text == "ISO 025"; }), 2U);
+}
+
+/// Whatever a terminal may say about any object of the pool; the sanitizers watch.
+TEST(GalleryOperation, AnythingMayBeActivatedOrEntered)
+{
+    Operator op;
+    VT::Pool& pool = op.gallery.pool();
+    const auto say = [&](const Bytes& message) { pool.receive(message.data(), message.size()); };
+    for (int id = 0; id < static_cast<int>(pool.size()); ++id)
+        for (int activation = 0; activation <= 3; ++activation) {
+            say(frame(0, activation, w(id), w(0xFFFF), 1));
+            say(frame(1, activation, w(id), w(0xFFFF), 1));
+            say(frame(5, w(id), 0xFF, d(activation == 0 ? 0xFFFFFFFF : 0x80000000 >> activation)));
+        }
+    pool.take_problems();
+    for (VT::Mask_obj* const page : op.gallery.pages()) {
+        op.gallery.show(*page);
+        EXPECT_FALSE(op.screen().empty()) << page->get_name();
+    }
 }
 
 TEST(GalleryOperation, TheScreenShowsWhatTheMachineDoes)
