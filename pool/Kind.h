@@ -168,9 +168,12 @@ void for_each_reachable(const Kind& kind, VT_obj& object, F&& reach)
     if (kind.links == Kind::Links::working_set)
         for (Mask_obj* const mask : static_cast<Working_set_obj&>(object).get_masks())
             reach(mask);
-    if (kind.has_states)
-        for (VT_obj* const shown : static_cast<Comp::N_state_pointer_obj<2>&>(object).states)
+    if (kind.has_states) {
+        auto& pointer = static_cast<Comp::N_state_pointer_obj<2>&>(object);
+        for (VT_obj* const shown : pointer.states)
             reach(shown);
+        reach(pointer.detached);
+    }
     for_each_link(kind, object, [&](VT_obj* target, Attribute_object_id_spec&) { reach(target); });
 }
 

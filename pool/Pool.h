@@ -43,7 +43,7 @@ struct Timeouts
 ///
 ///     VT::Pool pool;
 ///     pool.add(working_set);
-///     pool.add(style.cover.root()); // nothing shows it yet
+///     pool.add(crumb.root()); // nothing shows it yet
 ///     if (const VT::Result result = pool.load(link); !result)
 ///         std::cerr << result.text();
 ///

@@ -277,39 +277,39 @@ TEST_F(ComboRoute, LeadsButtonAndSoftKeyToTheClassThatHoldsBoth)
 class DisabledArea : public OneOnAScreen
 {
   protected:
-    void go_live_and_grow()
-    {
-        disable.set_size({32, 10});
-        disable.set_disabled(true);
-        mask.add(disable.root(), 0, 0);
-        go_live();
-        EXPECT_EQ(disable.root().value, style.cover_tile.get_id());
-        disable.set_size({100, 40});
-    }
-
     Messages shows(Iso::Object_id id) const { return {frame(0xA8, w(disable.state_pointer.get_id()), 0xFF, d(id))}; }
 
     C::Disable_widget disable{style};
 };
 
-TEST_F(DisabledArea, TakesALargerCoverWhenAllHaveBeenAdded)
+TEST_F(DisabledArea, TakesEveryCoverInALivePool)
 {
-    pool.add(style.cover.root());
-    go_live_and_grow();
-    ASSERT_NE(style.cover_128.get_id(), Iso::null_id);
-    EXPECT_EQ(terminal.take_sent(), shows(style.cover_128.get_id()));
+    disable.set_size({32, 10});
+    disable.set_disabled(true);
+    mask.add(disable.root(), 0, 0);
+    go_live();
+    EXPECT_EQ(disable.root().value, style.cover_tile.get_id());
+    const std::pair<int, const VT::VT_obj&> covers[] = {
+        {512, style.cover_512}, {256, style.cover_256}, {128, style.cover_128}, //
+        {64, style.cover_64},   {32, style.cover_tile},
+    };
+    for (const auto& [side, cover] : covers) {
+        ASSERT_NE(cover.get_id(), Iso::null_id) << side;
+        disable.set_size({static_cast<std::uint16_t>(side), 10});
+        EXPECT_EQ(terminal.take_sent(), shows(cover.get_id())) << side;
+    }
     EXPECT_TRUE(pool.take_problems().empty());
 }
 
-TEST_F(DisabledArea, LooksEnabledWithACoverThatThePoolDoesNotHave)
+TEST_F(DisabledArea, CostsFourContainersAndATile)
 {
-    go_live_and_grow();
-    EXPECT_EQ(style.cover_128.get_id(), Iso::null_id);
-    EXPECT_EQ(terminal.take_sent(), shows(Iso::null_id));
-    const std::vector<VT::Problem> problems = pool.take_problems();
-    ASSERT_EQ(problems.size(), 1U);
-    EXPECT_EQ(problems[0].error, VT::Error::suspicious_value);
-    EXPECT_EQ(problems[0].id, disable.root().get_id());
+    Screen bare;
+    ASSERT_TRUE(bare.pool.prepare());
+    disable.set_size({32, 10});
+    mask.add(disable.root(), 0, 0);
+    ASSERT_TRUE(pool.prepare());
+    // The pointer, the one that shows nothing, and the covers.
+    EXPECT_EQ(pool.size(), bare.pool.size() + 2 + 5);
 }
 
 } // namespace

@@ -6,7 +6,9 @@ namespace VT::Comp {
 
 Disable_widget::Disable_widget(Connection_elements& style)
     : elements(style), state_pointer({&style.null_pointer, &style.cover_512})
-{}
+{
+    state_pointer.detached = &style.cover_512; // all the others lie in it
+}
 
 void Disable_widget::set_size(Dimension size)
 {

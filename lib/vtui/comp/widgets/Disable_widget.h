@@ -9,9 +9,8 @@ namespace VT::Comp {
 
 /// Makes a component look disabled: a pointer at a stippled cover, or at nothing. It only looks so: what lies below
 /// still reacts. The owner places root() over the component, at its top left corner. The cover is not cut to the
-/// component: 100 × 40 pixels get the one of 128 × 128. The style outlives it. Where the size may change later, the
-/// application adds all covers to the pool, `pool.add(style.cover.root())`: otherwise it then looks enabled, and the
-/// pool notes a problem.
+/// component: 100 × 40 pixels get the one of 128 × 128. The style outlives it. The pool takes in all covers with it, so
+/// that the size may change when the pool is live.
 class VTUI_EXPORT Disable_widget
 {
   public:
