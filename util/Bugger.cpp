@@ -8,5 +8,5 @@ void Bugger::report_bug(const char* text)
 {
     std::printf("BUG: %s\r\n", text);
     std::fflush(stdout); // abort() does not
-    Fatal::assertion("false", "../../../../util/Bugger", 42, __PRETTY_FUNCTION__);
+    Fatal::assertion("false", "../../../../util/Bugger", 42, "static void Bugger::report_bug(const char*)");
 }

@@ -117,6 +117,15 @@ TEST_F(DisableWidget, KeepsItsStateWhenItIsSized)
     EXPECT_EQ(widget.state_pointer.target, &style.cover_512);
 }
 
+TEST_F(DisableWidget, ShowsNothingWhenEnabledAfterASizeWhateverThatStateHadBeen)
+{
+    for (VT::VT_obj*& look : widget.state_pointer.states)
+        look = &style.rect_red;
+    widget.set_size({100, 40});
+    EXPECT_EQ(widget.state_pointer.states, (std::array<VT::VT_obj*, 2>{&style.null_pointer, &style.cover_128}));
+    EXPECT_EQ(widget.state_pointer.target, &style.null_pointer);
+}
+
 TEST_F(DisableWidget, SendsOneValueForEveryChange)
 {
     widget.set_size({100, 40});

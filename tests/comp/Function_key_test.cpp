@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <type_traits>
+#include <utility>
 
 using namespace icon_text;
 
@@ -45,6 +46,18 @@ TEST_F(FunctionKey, RunsItsActionOnceWithEveryRelease)
     EXPECT_EQ(runs, 2);
     EXPECT_TRUE(pool.sent.empty());
     EXPECT_TRUE(pool.uploaded.empty());
+}
+
+TEST_F(FunctionKey, TakesOverAndRunsItsActionWithoutACopyOfIt)
+{
+    Copied copied;
+    std::function<void()> action = [this, copied] { runs += copied.times >= 0; };
+    Copied::all = 0;
+    Function_key other(std::move(action));
+    take(other);
+    activate(other, key_id);
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(Copied::all, 0);
 }
 
 TEST_F(FunctionKey, DoesNothingBeforeTheRelease)

@@ -14,6 +14,18 @@ using namespace VT::Comp;
 using namespace parts;
 using Lines = Record_text::Lines;
 
+/// Captured by an action: it is counted when the action is copied, which with captures above two pointers allocates.
+struct Copied
+{
+    Copied() = default;
+    Copied(const Copied& other) : times(other.times + 1) { ++all; }
+    Copied& operator=(const Copied&) = delete;
+
+    int times{0};
+    void* room[3]{}; ///< as large as it takes
+    static inline int all{0};
+};
+
 /// What an icon with a text borrows: a style with letters of 6 × 8, icons, texts, and a pool for all of it.
 class Icon_text : public ::testing::Test
 {
@@ -21,7 +33,7 @@ class Icon_text : public ::testing::Test
     Icon_text()
     {
         style.font_1.size = std::uint8_t{0};
-        resize(icon, {32, 32});
+        resize(icon, {40, 24}); // no square: its width is not its height
     }
 
     /// What is new about a caption: two lines, in the middle, of letters of `font`.

@@ -74,29 +74,31 @@ TEST_F(IconTextButtonWidget, IsABlankButtonAtFirst)
 TEST_F(IconTextButtonWidget, PutsTheCaptionAtTheBottomAndTheIconInTheRoomAbove)
 {
     widget.set_icon(&icon);
+    expect_layout({120, 100}, {12, 10}, {96, 80}, {28, 20}, {0, 64});
+    EXPECT_EQ(size_of(icon), Dimension(40, 24)) << "the application's";
+    resize(icon, {32, 32});
     expect_layout({120, 100}, {12, 10}, {96, 80}, {32, 16}, {0, 64});
-    EXPECT_EQ(size_of(icon), Dimension(32, 32)) << "the application's";
 }
 
 TEST_F(IconTextButtonWidget, CutsFractionsOff)
 {
     widget.set_icon(&icon);
-    expect_layout({129, 109}, {12, 10}, {105, 89}, {36, 20}, {0, 73});
-    expect_layout({11, 10}, {1, 1}, {9, 8}, {-11, -20}, {0, -8}); // -23 / 2
+    expect_layout({129, 109}, {12, 10}, {105, 89}, {32, 24}, {0, 73});
+    expect_layout({11, 10}, {1, 1}, {9, 8}, {-15, -16}, {0, -8}); // -31 / 2
 }
 
 TEST_F(IconTextButtonWidget, HasNoMarginBelow10Pixels)
 {
     widget.set_icon(&icon);
-    expect_layout({9, 9}, {0, 0}, {9, 9}, {-11, -19}, {0, -7});
-    expect_layout({9, 100}, {0, 10}, {9, 80}, {-11, 16}, {0, 64});
-    expect_layout({0, 0}, {0, 0}, {0, 0}, {-16, -24}, {0, -16});
+    expect_layout({9, 9}, {0, 0}, {9, 9}, {-15, -15}, {0, -7});
+    expect_layout({9, 100}, {0, 10}, {9, 80}, {-15, 20}, {0, 64});
+    expect_layout({0, 0}, {0, 0}, {0, 0}, {-20, -20}, {0, -16});
 }
 
 TEST_F(IconTextButtonWidget, WrapsAPlaceAt16Bits)
 {
     widget.set_icon(&icon);
-    expect_layout({65535, 65535}, {6553, 6553}, {52429, 52429}, {26198, 26190}, {0, -13123}); // the caption at 52413
+    expect_layout({65535, 65535}, {6553, 6553}, {52429, 52429}, {26194, 26194}, {0, -13123}); // the caption at 52413
     resize(icon, {65535, 65535});
     expect_layout({0, 0}, {0, 0}, {0, 0}, {-32767, 32761}, {0, -16}); // the icon at -32775
 }
@@ -107,7 +109,7 @@ TEST_F(IconTextButtonWidget, GivesTheCaptionTwoLinesOfTheStylesFont)
     widget.set_icon(&icon);
     widget.set_size({500, 500});
     EXPECT_EQ(size_of(widget.caption), Dimension(400, 384));
-    expect_place(widget.placements, 0, {184, -8});
+    expect_place(widget.placements, 0, {180, -4});
     expect_place(widget.placements, 1, {0, 16});
 }
 
@@ -123,7 +125,7 @@ TEST_F(IconTextButtonWidget, ShowsANewIconWithTheNextSizeOnly)
     EXPECT_EQ(widget.placements.attributes[0].object_id, blank_id);
     EXPECT_TRUE(pool.news().empty());
     widget.set_size({120, 100});
-    expect_place(widget.placements, 0, {32, 16});
+    expect_place(widget.placements, 0, {28, 20});
     EXPECT_EQ(widget.placements.attributes[0].object_id, icon_id);
 }
 
@@ -216,6 +218,18 @@ TEST_F(IconTextButtonWidget, RunsItsActionOnceWithEveryRelease)
     activate(button_id);
     EXPECT_EQ(runs, 2);
     EXPECT_TRUE(pool.sent.empty());
+}
+
+TEST_F(IconTextButtonWidget, RunsItsActionWithoutACopyOfIt)
+{
+    int runs = 0;
+    Copied copied;
+    widget.action = [&, copied] { runs += copied.times >= 0; };
+    Copied::all = 0;
+    take();
+    activate(button_id);
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(Copied::all, 0);
 }
 
 TEST_F(IconTextButtonWidget, DoesNothingBeforeTheRelease)

@@ -56,28 +56,30 @@ TEST_F(IconTextWidget, TakesAFontInsteadOfTheStyles)
 TEST_F(IconTextWidget, PutsIconAndCaptionInTheMiddleAsOneBlock)
 {
     widget.set_icon(&icon);
-    expect_layout({100, 80}, {34, 16}, {0, 48});
+    expect_layout({100, 80}, {30, 20}, {0, 44});
     EXPECT_EQ(size_of(widget.caption), Dimension(100, 16));
-    EXPECT_EQ(size_of(icon), Dimension(32, 32)) << "the application's";
+    EXPECT_EQ(size_of(icon), Dimension(40, 24)) << "the application's";
+    resize(icon, {32, 32});
+    expect_layout({100, 80}, {34, 16}, {0, 48});
 }
 
 TEST_F(IconTextWidget, CutsHalfAPixelOff)
 {
     widget.set_icon(&icon);
-    expect_layout({101, 81}, {34, 16}, {0, 48});
+    expect_layout({101, 81}, {30, 20}, {0, 44});
     EXPECT_EQ(size_of(widget.caption), Dimension(101, 16));
-    expect_layout({21, 31}, {-5, -8}, {0, 24}); // -11 / 2, -17 / 2
+    expect_layout({21, 31}, {-9, -4}, {0, 20}); // -19 / 2, -9 / 2
 }
 
 TEST_F(IconTextWidget, GivesTheCaptionTwoLinesOfItsFont)
 {
     style.font_1.size = std::uint8_t{3}; // 12 × 16
     widget.set_icon(&icon);
-    expect_layout({100, 80}, {34, 8}, {0, 40});
+    expect_layout({100, 80}, {30, 12}, {0, 36});
     EXPECT_EQ(size_of(widget.caption), Dimension(100, 32));
 
     style.font_1.size = std::uint8_t{14}; // 128 × 192
-    expect_layout({100, 80}, {34, -168}, {0, -136});
+    expect_layout({100, 80}, {30, -164}, {0, -140});
     EXPECT_EQ(size_of(widget.caption), Dimension(100, 384));
 }
 
@@ -88,8 +90,8 @@ TEST_F(IconTextWidget, LaysOutByTheFontGivenToIt)
     other.set_icon(&icon);
     other.set_size({100, 80});
     EXPECT_EQ(size_of(other.caption), Dimension(100, 48));
-    expect_place(other.placements, 0, {34, 0});
-    expect_place(other.placements, 1, {0, 32});
+    expect_place(other.placements, 0, {30, 4});
+    expect_place(other.placements, 1, {0, 28});
 }
 
 TEST_F(IconTextWidget, CentresTheBlankSquareUntilItHasAnIcon)
@@ -109,7 +111,7 @@ TEST_F(IconTextWidget, AddsTheHeightsIn16Bits)
 TEST_F(IconTextWidget, WrapsAPlaceAt16Bits)
 {
     widget.set_icon(&icon);
-    expect_layout({65535, 65535}, {32751, 32743}, {0, -32761}); // the caption at 32775
+    expect_layout({65535, 65535}, {32747, 32747}, {0, -32765}); // the caption at 32771
     EXPECT_EQ(size_of(widget.caption), Dimension(65535, 16));
 }
 
@@ -124,7 +126,7 @@ TEST_F(IconTextWidget, ShowsANewIconWithTheNextSizeOnly)
     expect_child(widget.placements, 0, icon, before);
     EXPECT_EQ(widget.placements.attributes[0].object_id, blank_id);
     widget.set_size({100, 80});
-    expect_place(widget.placements, 0, {34, 16});
+    expect_place(widget.placements, 0, {30, 20});
     EXPECT_EQ(widget.placements.attributes[0].object_id, icon_id);
     EXPECT_EQ(widget.placements.attributes[1].object_id, caption_id);
     EXPECT_TRUE(pool.news().empty());
@@ -161,7 +163,7 @@ TEST_F(IconTextWidget, SendsNothingWhenItIsLaidOut)
     take();
     pool.live = true;
     widget.set_icon(&icon);
-    expect_layout({100, 80}, {34, 16}, {0, 48});
+    expect_layout({100, 80}, {30, 20}, {0, 44});
     EXPECT_TRUE(pool.news().empty());
     EXPECT_TRUE(pool.uploaded.empty());
     widget.root().upload(true);

@@ -101,8 +101,8 @@ TEST_F(KeyButtonComboWidget, LaysOutItsParts)
     combo.set_icon(&icon, &other_icon);
     combo.set_size({120, 96});
     EXPECT_EQ(size_of(combo.icon_text.caption), Dimension(100, 16));
-    expect_place(combo.icon_text.placements, 0, {34, 16}); // in 100 × 80
-    expect_place(combo.icon_text.placements, 1, {0, 48});
+    expect_place(combo.icon_text.placements, 0, {30, 20}); // in 100 × 80
+    expect_place(combo.icon_text.placements, 1, {0, 44});
     EXPECT_EQ(size_of(combo.border.border), Dimension(117, 93));
     expect_child(combo.border.placements, 0, combo.border.border, {3, 3});
     expect_place(combo.button.placements, 2, {0, 0});
@@ -119,7 +119,7 @@ TEST_F(KeyButtonComboWidget, LeavesItsSoftKeyAloneWhenItIsLaidOut)
     combo.set_icon(&icon, &icon);
     combo.soft_key.set_size({60, 36});
     combo.set_size({120, 60});
-    expect_place(combo.soft_key.placements, 0, {14, 2});
+    expect_place(combo.soft_key.placements, 0, {10, 6});
 }
 
 TEST_F(KeyButtonComboWidget, HasAnIconForTheButtonAndAnotherForTheKey)
@@ -140,7 +140,7 @@ TEST_F(KeyButtonComboWidget, MovesANewIconOfTheKeyToTheOriginButNotThatOfTheButt
     combo.set_size({120, 96});
     combo.soft_key.set_size({60, 36});
     combo.set_icon(&other_icon, &other_icon);
-    expect_child(combo.icon_text.placements, 0, other_icon, {34, 16});
+    expect_child(combo.icon_text.placements, 0, other_icon, {30, 20});
     expect_child(combo.soft_key.placements, 0, other_icon, {0, 0});
 }
 

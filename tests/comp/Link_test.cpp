@@ -49,6 +49,17 @@ class Link : public ::testing::Test
         EXPECT_EQ(owner.*attribute, VT::VT_obj::NULL_ID) << "without an id of its own the owner keeps the pointer only";
         EXPECT_FALSE((owner.*attribute).changed());
 
+        owner.set_pool(&pool, VT::VT_obj::NULL_ID);
+        (owner.*set)(&target);
+        EXPECT_EQ(owner.*attribute, VT::VT_obj::NULL_ID) << "a pool alone is no id";
+        owner.set_pool(nullptr, owner_id);
+        (owner.*set)(&target);
+        EXPECT_EQ(owner.*attribute, target_id) << "an id without a pool is enough";
+        (owner.*set)(nullptr);
+        EXPECT_EQ(owner.*attribute, VT::VT_obj::NULL_ID);
+        owner.set_pool(nullptr, VT::VT_obj::NULL_ID);
+        (owner.*set)(&target);
+
         pool.take(owner, owner_id);
         EXPECT_EQ(owner.*attribute, VT::VT_obj::NULL_ID) << "whoever gives the id writes the links";
         (owner.*set)(&target);

@@ -96,6 +96,30 @@ TEST_F(OutputStringSpecification, GrowsAnEmptyTextToo)
     EXPECT_EQ(value(), "   ");
 }
 
+TEST_F(OutputStringSpecification, GrowsATextThatIsShorterThanItsLength)
+{
+    char buffer[] = "ab\0XY!";
+    string.length = std::uint16_t{5};
+    string.value.item_count = 5;
+    string.value.buffer = buffer;
+    EXPECT_TRUE(specify({{"length", 7.0}}));
+    EXPECT_EQ(pool.strings, (std::vector<std::string>{"9 ab"})) << "what lies behind the end is no text";
+    EXPECT_EQ(string.length, 7);
+    EXPECT_EQ(value(), "ab     ");
+    EXPECT_EQ(std::string(buffer, 6), "ab\0XY!"s);
+}
+
+TEST_F(OutputStringSpecification, GrowsATextThatEndsWithItsBuffer)
+{
+    char buffer[] = {'a', 'b', 'X'};
+    string.length = std::uint16_t{2};
+    string.value.item_count = 2;
+    string.value.buffer = buffer;
+    EXPECT_TRUE(specify({{"length", 3.0}}));
+    EXPECT_EQ(pool.strings, (std::vector<std::string>{"9 ab"})) << "no NUL ends it";
+    EXPECT_EQ(value(), "ab ");
+}
+
 TEST_F(OutputStringSpecification, DoesNotShrinkTheText)
 {
     set_text("abc");

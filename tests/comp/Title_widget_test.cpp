@@ -76,6 +76,22 @@ TEST_F(TitleWidget, DrawsATransparentWrappedTextOverTheStylesBackground)
     EXPECT_FALSE((std::is_convertible_v<Connection_elements&, Title_widget>)) << "not by accident";
 }
 
+TEST_F(TitleWidget, TakesAPlainFontOfTheVtLibrary)
+{
+    VT::Font_attributes_obj plain(VT::VT_obj::NULL_ID, nullptr, 0, 3, 0, 0, 0); // 12 × 16
+    Title_widget other(style, &plain);
+    EXPECT_EQ(other.font, &plain);
+    EXPECT_EQ(other.text_obj.font, &plain);
+    other.set_text(&seeder.variable);
+    EXPECT_EQ(other.get_preferred_size(), Dimension(10 * 12 + 8 + 8, 16 + 4 + 8));
+    other.set_size({200, 30});
+    EXPECT_EQ(size_of(other.text_obj), Dimension(168, 26));
+    pool.take(plain, 0x1005);
+    pool.take(other.text_obj, text_id);
+    other.text_obj.set_font(&plain);
+    EXPECT_EQ(other.text_obj.font_attributes, 0x1005);
+}
+
 TEST_F(TitleWidget, HasTheFontGivenToItOrTheStylesFont4)
 {
     EXPECT_EQ(title.font, &style.font_3);

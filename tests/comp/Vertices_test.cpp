@@ -49,6 +49,7 @@ TEST(Vertices, HaveTheirVirtualOperationsInThisOrder)
     EXPECT_EQ(virtual_slot(&Vertices::get), 0U);
     EXPECT_EQ(virtual_slot(&Vertices::size), 1U);
     EXPECT_EQ(virtual_slot(&Vertices::deref), 2U);
+    EXPECT_EQ(virtual_slot(&Vertices::point), 5U) << "behind the two destructors";
     EXPECT_TRUE(std::has_virtual_destructor_v<Vertices>);
     EXPECT_TRUE(std::is_abstract_v<Vertices>);
 }

@@ -185,10 +185,12 @@ class Long_line final : public Line_attributes_obj
     void visit(VT::Attribute_visitor& visitor) override
     {
         was_locked = is_locked(*this);
+        art_when_checked = line_art;
         visitor.attribute({"length", 0, VT::Axis::x}, length);
     }
 
     bool was_locked{false};
+    std::uint16_t art_when_checked{1};
 
   private:
     VT::Attribute_uint16 length{40000};
@@ -200,6 +202,7 @@ TEST(ScaleCheck, OfALineIsStillTheOneOfEveryObject)
     EXPECT_FALSE(line.check_scale_area(2, 1, 1, 1));
     EXPECT_TRUE(line.was_locked);
     EXPECT_EQ(line.line_art, 0);
+    EXPECT_EQ(line.art_when_checked, 0) << "cleared before the check";
     EXPECT_TRUE(line.check_scale_area(1, 1, 1, 1));
     EXPECT_FALSE(is_locked(line, std::chrono::seconds(10)));
 }

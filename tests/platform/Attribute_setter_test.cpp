@@ -165,6 +165,15 @@ TEST(Specification, RefusesATextForAVariableWithoutABuffer)
     EXPECT_EQ(refusals(object, {{"value", ""s}}), nothing) << "there is room for no text";
 }
 
+TEST(Specification, FillsATextVariableToTheBrim)
+{
+    char text[] = "ab!";
+    auto object = objects::string_variable(text, 2);
+    EXPECT_EQ(refusals(object, {{"value", "xy"s}}), nothing);
+    EXPECT_STREQ(text, "xy!");
+    EXPECT_TRUE(object.value.changed());
+}
+
 TEST(Specification, SetsATextAndClearsTheRestOfItsVariable)
 {
     char text[] = "abcd!";

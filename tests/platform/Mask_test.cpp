@@ -198,6 +198,19 @@ TEST(WorkingSet, ListsItsFaceAndItsLanguages)
                      "count u8 0", "count u8 2", "child 11 at 2,3", "raw 'ende'"}));
 }
 
+TEST(WorkingSet, IgnoresLanguagesBeyond255)
+{
+    VT::Working_set_obj set;
+    for (int i = 0; i < 255; ++i)
+        set.add_language("en");
+    const Lines full = Record_text::of(set);
+    ASSERT_EQ(full.size(), 7U);
+    EXPECT_EQ(full[5], "count u8 255");
+    EXPECT_EQ(full[6].size(), std::string("raw ''").size() + 510);
+    set.add_language("de");
+    EXPECT_EQ(Record_text::of(set), full);
+}
+
 TEST(WorkingSet, KnowsEachOfItsMasksOnce)
 {
     VT::Data_mask_obj first;

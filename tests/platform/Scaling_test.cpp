@@ -140,6 +140,43 @@ TEST(ScaleCheck, RefusesAPositionBeyondSixteenBits)
     EXPECT_FALSE(object.check_scale_area(1, 33, 1, 1));
 }
 
+TEST(ScaleCheck, AcceptsTheLastSizeAndTheLastPositions)
+{
+    VT::Attribute_object_placement children[2];
+    children[0].x = std::int16_t{1057};  // × 31 = 32767
+    children[1].y = std::int16_t{-1024}; // × 32 = -32768
+    auto object = objects::container(children, 2);
+    object.width = std::uint16_t{1};
+    object.height = std::uint16_t{1};
+    EXPECT_TRUE(object.check_scale_area(31, 32, 1, 1));
+    object.__set_scale(31, 32, 1, 1);
+    EXPECT_EQ(children[0].x, 32767);
+    EXPECT_EQ(children[1].y, -32768);
+
+    auto area = objects::container();
+    area.width = std::uint16_t{13107};
+    area.height = std::uint16_t{21845};
+    EXPECT_TRUE(area.check_scale_area(5, 3, 1, 1));
+    area.__set_scale(5, 3, 1, 1);
+    EXPECT_EQ(area.width, 65535);
+    EXPECT_EQ(area.height, 65535);
+    EXPECT_FALSE(area.check_scale_area(65536 / 2, 1, 65535 / 2, 1)) << "65537";
+    EXPECT_FALSE(area.check_scale_area(1, 65536 / 2, 1, 65535 / 2));
+}
+
+TEST(ScaleCheck, RefusesTheFirstPositionsBeyond)
+{
+    VT::Attribute_object_placement children[1];
+    auto object = objects::container(children, 1);
+    object.width = std::uint16_t{1};
+    object.height = std::uint16_t{1};
+    children[0].x = std::int16_t{16384};
+    EXPECT_FALSE(object.check_scale_area(2, 1, 1, 1)) << "32768";
+    children[0].x = std::int16_t{0};
+    children[0].y = std::int16_t{-10923};
+    EXPECT_FALSE(object.check_scale_area(1, 3, 1, 1)) << "-32769";
+}
+
 TEST(ScaleCheck, RefusesAPointBeyondSixteenBitsAndChangesNothing)
 {
     VT::Attribute_point points[2];

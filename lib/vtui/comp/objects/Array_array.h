@@ -1,11 +1,13 @@
 #ifndef VTUI_COMP_ARRAY_ARRAY_H
 #define VTUI_COMP_ARRAY_ARRAY_H
 
+#include "iso11783/Export.h"
+
 #include <cstddef>
 
 /// Exactly N elements, stored inline. No bounds are checked.
 template <typename T, std::size_t N>
-class Array_array
+class VTUI_EXPORT Array_array
 {
   public:
     virtual ~Array_array() = default;
@@ -19,23 +21,23 @@ class Array_array
 // One template parameter each, so that a class template can take an array of a given capacity.
 
 template <typename T>
-class Array_array_1 : public Array_array<T, 1>
+class VTUI_EXPORT Array_array_1 : public Array_array<T, 1>
 {};
 
 template <typename T>
-class Array_array_2 : public Array_array<T, 2>
+class VTUI_EXPORT Array_array_2 : public Array_array<T, 2>
 {};
 
 template <typename T>
-class Array_array_3 : public Array_array<T, 3>
+class VTUI_EXPORT Array_array_3 : public Array_array<T, 3>
 {};
 
 template <typename T>
-class Array_array_4 : public Array_array<T, 4>
+class VTUI_EXPORT Array_array_4 : public Array_array<T, 4>
 {};
 
 template <typename T>
-class Array_array_8 : public Array_array<T, 8>
+class VTUI_EXPORT Array_array_8 : public Array_array<T, 8>
 {};
 
 #endif

@@ -1,7 +1,6 @@
 #ifndef VTUI_COMP_HAS_CHILD_PLACEMENTS_H
 #define VTUI_COMP_HAS_CHILD_PLACEMENTS_H
 
-#include "util/Fatal.h"
 #include "vt/Attribute.h"
 #include "vt/VT_obj.h"
 #include "vtui/comp/objects/Array_array.h"
@@ -10,11 +9,12 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace VT::Comp {
 
 /// A child and where it lies in its parent.
-struct Child_placement
+struct VTUI_EXPORT Child_placement
 {
     constexpr Child_placement() = default;
     constexpr Child_placement(VT::VT_obj* child, std::int16_t left, std::int16_t top) : ref(child), x(left), y(top) {}
@@ -52,10 +52,14 @@ class VTUI_EXPORT Child_placements
     /// Object `i` of those that the component shows only at times, through pointers, for the pool: it takes them in
     /// with the children. Null behind the last.
     virtual VT::VT_obj* detached(std::size_t) { return nullptr; }
+
+  protected:
+    /// Ends the process: a placement has no child. `function` is the compiler's name of the deref() that found it.
+    [[noreturn]] static void no_child(std::string_view function);
 };
 
 template <template <typename> class Array_type>
-class Child_placements_array : public Child_placements
+class VTUI_EXPORT Child_placements_array : public Child_placements
 {
   public:
     Array_type<Child_placement> placements;
@@ -69,7 +73,7 @@ class Child_placements_array : public Child_placements
 
 /// Beside the placements, N objects that the component shows only at times.
 template <template <typename> class Array_type, std::size_t N>
-class Child_placements_and_detached : public Child_placements_array<Array_type>
+class VTUI_EXPORT Child_placements_and_detached : public Child_placements_array<Array_type>
 {
   public:
     std::array<VT::VT_obj*, N> detached_objects{}; ///< not owned; from the front on: the pool stops at the first null
@@ -83,8 +87,7 @@ void Child_placements_array<Array_type>::deref()
     for (std::size_t i = 0; i < placements.size(); ++i) {
         const Child_placement& child = placements[i];
         if (!child.ref)
-            Fatal::assertion("false", "../../../../lib/vtui/comp/objects/Has_child_placements", 213,
-                             __PRETTY_FUNCTION__);
+            no_child(__PRETTY_FUNCTION__);
         VT::Attribute_object_placement& attribute = attributes[i];
         attribute.object_id = child.ref->get_id();
         attribute.x = child.x;

@@ -26,7 +26,7 @@ class VTUI_EXPORT Vertices
 };
 
 template <template <typename> class Array_type>
-class Vertex_array : public Vertices
+class VTUI_EXPORT Vertex_array : public Vertices
 {
   public:
     Array_type<std::pair<short, short>> points; ///< x, y: pixels from the polygon's top left corner

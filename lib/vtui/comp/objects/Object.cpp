@@ -6,7 +6,8 @@ namespace VT::Comp {
 
 Object::Object(const Object&)
 {
-    Fatal::assertion("false", "../../../../lib/vtui/comp/objects/Object", 165, __PRETTY_FUNCTION__);
+    Fatal::assertion("false", "../../../../lib/vtui/comp/objects/Object", 165,
+                     "VT::Comp::Object::Object(const VT::Comp::Object&)");
 }
 
 } // namespace VT::Comp

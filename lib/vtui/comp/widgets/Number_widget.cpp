@@ -209,11 +209,12 @@ void Number_widget::set_system(Units_man::units_systems new_system)
     double steps = most_steps;
     if (is_bounded(s)) {
         if (!(s.max > s.min))
-            Fatal::assertion("max > min", source, 37, __PRETTY_FUNCTION__);
+            Fatal::assertion("max > min", source, 37,
+                             "void VT::Comp::Number_widget::set_system(Units_man::units_systems)");
         const double range = s.max - s.min;
         // Counts whole display units, and none where they take more than 32 bits: such a range passes.
         if (Conversion::magnitude(Conversion::to_int32(range)) / s.scale > most_steps)
-            Fatal::assertion("false", source, 48, __PRETTY_FUNCTION__);
+            Fatal::assertion("false", source, 48, "void VT::Comp::Number_widget::set_system(Units_man::units_systems)");
         offset = s.min / s.scale;
         steps = range / s.scale;
     } else {

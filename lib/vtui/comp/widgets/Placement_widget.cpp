@@ -18,7 +18,7 @@ void Placement_widget::set_size(Dimension box)
     Child_placement& placed = content.placements[0];
     if (!placed.ref)
         Fatal::assertion("__null != content.placements[0].ref", "../../../vtui/comp/widgets/Placement_widget", 26,
-                         __PRETTY_FUNCTION__);
+                         "void VT::Comp::Placement_widget::set_size(VT::Comp::Dimension)");
 
     resize(container, box);
 
