@@ -81,7 +81,8 @@ class VTUI_EXPORT Custom_select_widget : public List_separator, public Custom_li
 
     /// Selects the button that is released, if it is one of the list's: a message for every button of a live pool.
     void handle_event(Button_activation_event& event);
-    /// True if the button that was released last was one of the list's. It keeps its answer until the next release.
+    /// True if, of the releases that handle_event() was given, the last one was of a button of the list's. A routed
+    /// list is given no others: there it stays true from the first one on.
     bool was_last_button() const { return last_was_ours; }
 
     /// Switches button `index` on, from 0, and the others off: a message for every button of a live pool. One that is

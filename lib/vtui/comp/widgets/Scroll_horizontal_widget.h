@@ -64,8 +64,9 @@ class VTUI_EXPORT Scroll_horizontal_widget
     /// Scrolls in half windows until the `width` pixels of the content from `x` on are visible, and uploads once; if
     /// they are visible already only when not `quiet`.
     ///
-    /// It does not return if no step shows all of them. A span inside the content of up to half a window is always
-    /// shown; a wider one may fall between two steps; one wider than the window or outside the content is never shown.
+    /// It does not return if no step shows all of them. A span inside the content of up to half a window, which is
+    /// at least 2 pixels wide, is always shown; a wider one may fall between two steps; one wider than the window, or
+    /// one that begins or ends outside of a content that overflows, is never shown.
     void scroll_to_show(short x, unsigned short width, bool quiet);
 
     Container_obj container;
