@@ -1,54 +1,62 @@
 #include "terminal/web/Web_page.h"
 
 #include "terminal/Touch.h"
+#include "terminal/web/Http_server.h"
 #include "terminal/web/Page_html.h"
 
 #include <QBuffer>
+#include <QCryptographicHash>
 #include <QString>
 #include <QThread>
-
-#include <httplib.h>
-
-#include <sys/socket.h>
+#include <QUrlQuery>
 
 #include <algorithm>
-#include <cerrno>
-#include <chrono>
+#include <charconv>
 #include <exception>
-#include <future>
 #include <stdexcept>
-#include <system_error>
 #include <utility>
 
 namespace terminal {
 
 namespace {
 
-using httplib::Request;
-using httplib::Response;
-
-constexpr const char* address = "127.0.0.1";
 constexpr const char* plain_text = "text/plain; charset=utf-8";
 constexpr const char* json = "application/json";
 
-using Clock = std::chrono::steady_clock;
 constexpr std::chrono::seconds longest_silence{1}; ///< of a browser in which something is pressed
-constexpr std::chrono::milliseconds idle_interval{100};
-
-/// Threads for requests; the one that waits for these does something else in its spare time.
-class Threads final : public httplib::ThreadPool
-{
-  public:
-    explicit Threads(std::function<void()> in_spare_time)
-        : ThreadPool(CPPHTTPLIB_THREAD_POOL_COUNT), idle(std::move(in_spare_time))
-    {}
-    void on_idle() override { idle(); }
-
-  private:
-    const std::function<void()> idle;
-};
 
 std::string escaped(const std::string& text) { return QString::fromStdString(text).toHtmlEscaped().toStdString(); }
+
+std::string html_with(const std::vector<std::string>& names)
+{
+    std::string choices;
+    for (const std::string& name : names)
+        choices += "<label><input type=\"radio\" name=\"page\" value=\"" + escaped(name) + "\"><span>" + escaped(name) +
+                   "</span></label>\n";
+    std::string page(page_html);
+    return page.replace(page.find(choices_mark), choices_mark.size(), choices);
+}
+
+/// Names what stands between the page's tags of that name, as browsers want it that are to run nothing else.
+std::string hash_of(const std::string& tag)
+{
+    const std::size_t start = page_html.find("<" + tag + ">") + tag.size() + 2;
+    const std::string_view content = page_html.substr(start, page_html.find("</" + tag + ">", start) - start);
+    const QByteArray bytes(content.data(), static_cast<int>(content.size()));
+    return "'sha256-" + QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toBase64().toStdString() + "'";
+}
+
+std::vector<std::pair<std::string, std::string>> headers()
+{
+    return {{"Cache-Control", "no-store"},
+            {"Content-Security-Policy", "default-src 'none'; script-src " + hash_of("script") + "; style-src " +
+                                            hash_of("style") +
+                                            "; img-src 'self' data:; connect-src 'self'; base-uri 'none'; "
+                                            "form-action 'none'; frame-ancestors 'none'"},
+            {"Cross-Origin-Resource-Policy", "same-origin"},
+            {"X-Content-Type-Options", "nosniff"},
+            {"X-Frame-Options", "DENY"}};
+}
 
 std::string png(const QImage& image)
 {
@@ -59,10 +67,34 @@ std::string png(const QImage& image)
     return bytes.toStdString();
 }
 
-/// Of at most five digits.
-int number(const std::string& digits) { return std::stoi(digits); }
+/// What stands between the slashes of a path.
+std::vector<std::string> parts_of(const std::string& path)
+{
+    std::vector<std::string> parts;
+    for (std::size_t slash = 0; slash < path.size();) {
+        const std::size_t next = std::min(path.find('/', slash + 1), path.size());
+        const QByteArray encoded = QByteArray::fromStdString(path.substr(slash + 1, next - slash - 1));
+        parts.push_back(QByteArray::fromPercentEncoding(encoded).toStdString());
+        slash = next;
+    }
+    return parts;
+}
 
-Position place(const Request& request) { return {number(request.matches[1]), number(request.matches[2])}; }
+/// Of all parts but the first; nothing if one of them is no number of at most five digits.
+std::optional<std::vector<int>> numbers_of(const std::vector<std::string>& parts)
+{
+    constexpr std::size_t most_digits = 5;
+    std::vector<int> numbers;
+    for (std::size_t i = 1; i < parts.size(); ++i) {
+        const std::string& part = parts[i];
+        unsigned number = 0;
+        const auto [end, problem] = std::from_chars(part.data(), part.data() + part.size(), number);
+        if (part.size() > most_digits || problem != std::errc() || end != part.data() + part.size())
+            return {};
+        numbers.push_back(static_cast<int>(number));
+    }
+    return numbers;
+}
 
 const char* kind(Object target)
 {
@@ -78,184 +110,125 @@ const char* kind(Object target)
     }
 }
 
-void refuse(Response& response, int status, const std::string& reason)
-{
-    response.status = status;
-    response.set_content(reason, plain_text);
-}
+Http_answer refusal(unsigned status, const std::string& reason = {}) { return {status, plain_text, reason}; }
 
-void answer(Response& response, bool yes)
-{
-    response.status = 200;
-    response.set_content(yes ? "true" : "false", json);
-}
+/// Of a number that may have closed, or made room for another one, since the viewer has seen it.
+Http_answer no_longer_open() { return refusal(409, "this field is no longer open"); }
 
-void explain(const Request&, Response& response, std::exception_ptr problem)
-{
-    try {
-        std::rethrow_exception(problem);
-    } catch (const std::exception& known) {
-        refuse(response, 500, known.what());
-    } catch (...) {
-        refuse(response, 500, "unknown problem");
-    }
-}
+Http_answer said(bool yes) { return {200, json, yes ? "true" : "false"}; }
 
 } // namespace
 
 Web_page::Web_page(Terminal& shown_terminal, Renderer& its_renderer, Screen_choice screens,
-                   std::function<void()> operator_did_something, std::uint16_t port)
+                   std::function<void()> operator_did_something, std::uint16_t port, Web_settings settings)
     : terminal(shown_terminal), renderer(its_renderer), choice(std::move(screens)),
-      operated(std::move(operator_did_something)), server(std::make_unique<httplib::Server>())
+      operated(std::move(operator_did_something)), now(std::move(settings.now)), html(html_with(choice.names))
 {
-    // Qt takes the first thread that it meets for the main thread: let that not be one of the server.
+    // Qt takes the first thread that it meets for the main thread: let that not be the server's.
     QThread::currentThread();
-    add_routes();
-    listen(port);
+    Http_service service;
+    service.answer = [this](const Http_request& request) { return answer(request); };
+    service.in_spare_time = [this] { end_lost_press(); };
+    service.interval = settings.between_looks;
+    service.now = now;
+    service.headers = headers();
+    service.hosts = std::move(settings.hosts);
+    server = std::make_unique<Http_server>(port, std::move(service));
 }
 
 Web_page::~Web_page()
 {
-    server->stop();
-    listener.join();
+    server.reset();
     const auto locked = lock();
     if (heard)
         terminal.abort();
 }
 
-void Web_page::add_routes()
-{
-    server->Get(
-        "/", [this](const Request&, Response& response) { response.set_content(html(), "text/html; charset=utf-8"); });
-    server->Get("/screen.png",
-                [this](const Request&, Response& response) { response.set_content(picture(), "image/png"); });
-    server->Get("/revision", [this](const Request&, Response& response) {
-        const auto locked = lock();
-        response.set_content(std::to_string(terminal.revision()), plain_text);
-    });
-    server->Get("/page", [this](const Request&, Response& response) {
-        const auto locked = lock();
-        response.set_content(choice.shown(), plain_text);
-    });
-    server->Get("/entry", [this](const Request&, Response& response) { response.set_content(entry(), json); });
-    server->Get("/controls", [this](const Request&, Response& response) { response.set_content(controls(), json); });
+std::uint16_t Web_page::port() const { return server->port(); }
 
-    // None of the requests has a body, and they may say nothing of a length: there is none to be waited for.
-    const auto post = [this](const char* path, auto act) {
-        server->Post(path, [act](const Request& request, Response& response, const httplib::ContentReader&) {
-            response.status = 204;
-            act(request, response);
-        });
-    };
-    post("/page/(.+)", [this](const Request& request, Response& response) {
-        if (!show(request.matches[1]))
-            response.status = 404;
-    });
-    post("/press/(\\d{1,5})/(\\d{1,5})", [this](const Request& request, Response& response) {
-        press(response, [&] { return terminal.press(place(request)); });
-    });
-    post("/press/(\\d{1,5})", [this](const Request& request, Response& response) {
-        const int id = number(request.matches[1]);
-        press(response, [&] { return id < Iso::null_id && terminal.press(static_cast<Iso::Object_id>(id)); });
-    });
-    post("/move/(\\d{1,5})/(\\d{1,5})", [this](const Request& request, Response& response) {
-        operate(response, [&] { return terminal.move(place(request)); });
-    });
-    post("/hold", [this](const Request&, Response& response) { operate(response, [&] { return terminal.hold(); }); });
-    post("/release",
-         [this](const Request&, Response& response) { operate(response, [&] { return terminal.release(); }); });
-    post("/abort", [this](const Request&, Response& response) { operate(response, [&] { return terminal.abort(); }); });
-    post("/entry/(\\d{1,5})", [this](const Request& request, Response& response) {
-        enter(number(request.matches[1]), request.get_param_value("text"), response);
-    });
-    post("/escape/(\\d{1,5})",
-         [this](const Request& request, Response& response) { escape(number(request.matches[1]), response); });
-    server->set_pre_routing_handler([this](const Request& request, Response& response) {
-        if (request.method != "POST" || is_own(request)) {
-            end_lost_press();
-            return httplib::Server::HandlerResponse::Unhandled;
-        }
-        refuse(response, 403, "this is for the terminal's own page only");
-        return httplib::Server::HandlerResponse::Handled;
-    });
-    server->set_exception_handler(explain);
-    server->set_default_headers({{"Cache-Control", "no-store"}});
+Http_answer Web_page::answer(const Http_request& request)
+try {
+    end_lost_press();
+    if (request.method == "POST")
+        return operate(request);
+    if (request.method == "GET")
+        return read(request.path);
+    return refusal(404);
+} catch (const std::exception& problem) {
+    return refusal(500, problem.what());
+} catch (...) {
+    return refusal(500, "unknown problem");
 }
 
-void Web_page::listen(std::uint16_t port)
+Http_answer Web_page::read(const std::string& path)
 {
-    // The library's own choice lets two servers share a port.
-    server->set_socket_options([](int socket) {
-        const int on = 1;
-        setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof(on));
-    });
-    // The library looks at every idle connection a hundred times a second, so none is kept for a further request.
-    server->set_keep_alive_max_count(1);
-    server->set_keep_alive_timeout(1);
-    server->set_read_timeout(1);
-    server->set_payload_max_length(1024);
-    server->set_idle_interval(idle_interval);
-
-    const int bound = port == 0 ? server->bind_to_any_port(address) : server->bind_to_port(address, port) ? port : -1;
-    if (bound < 0)
-        throw std::system_error(errno, std::generic_category(),
-                                "cannot listen on " + std::string(address) + ":" + std::to_string(port));
-    listening_port = static_cast<std::uint16_t>(bound);
-
-    // The server asks for its threads when it has begun to run; a stop() before that would be lost.
-    const auto running = std::make_shared<std::promise<void>>();
-    server->new_task_queue = [this, running] {
-        running->set_value();
-        return new Threads([this] {
-            try {
-                end_lost_press();
-            } catch (...) {
-                // There is nobody left to whom it could be shown.
-            }
-        });
-    };
-    listener = std::thread([this] { server->listen_after_bind(); });
-    running->get_future().wait();
+    if (path == "/")
+        return {200, "text/html; charset=utf-8", html};
+    if (path == "/screen.png")
+        return {200, "image/png", png(picture())};
+    const auto locked = lock();
+    if (path == "/revision")
+        return {200, plain_text, std::to_string(terminal.revision())};
+    if (path == "/page")
+        return {200, plain_text, choice.shown()};
+    if (path == "/controls")
+        return {200, json, controls()};
+    if (path == "/entry")
+        return {200, json, entry()};
+    return refusal(404);
 }
 
-/// Whether the request is for this page by one of its two names, and comes from it if it says from where.
-bool Web_page::is_own(const Request& request) const
+Http_answer Web_page::operate(const Http_request& request)
 {
-    constexpr std::uint16_t usual_port = 80; // which browsers leave out
-    const std::string port_part = listening_port == usual_port ? "" : ":" + std::to_string(listening_port);
-    const std::string hosts[] = {address + port_part, "localhost" + port_part};
-    const auto all_own = [&](const char* header, const std::string& before) {
-        const auto [first, last] = request.headers.equal_range(header);
-        return std::all_of(first, last, [&](const auto& entry) {
-            return entry.second == before + hosts[0] || entry.second == before + hosts[1];
-        });
-    };
-    return all_own("Host", "") && all_own("Origin", "http://");
-}
-
-std::string Web_page::html() const
-{
-    std::string choices;
-    for (const std::string& name : choice.names)
-        choices += "<label><input type=\"radio\" name=\"page\" value=\"" + escaped(name) + "\"><span>" + escaped(name) +
-                   "</span></label>\n";
-    std::string page(page_html);
-    return page.replace(page.find(choices_mark), choices_mark.size(), choices);
-}
-
-std::string Web_page::picture()
-{
-    QImage image;
-    {
-        const auto locked = lock();
-        image = renderer.draw(terminal);
+    const std::vector<std::string> parts = parts_of(request.path);
+    const std::string what = parts.empty() ? "" : parts[0];
+    const auto locked = lock();
+    if (what == "page" && parts.size() == 2)
+        return show(parts[1]);
+    const auto numbers = numbers_of(parts);
+    if (!numbers)
+        return refusal(404);
+    switch (numbers->size()) {
+    case 0:
+        if (what == "hold")
+            return follow_press(terminal.hold());
+        if (what == "release")
+            return follow_press(terminal.release());
+        if (what == "abort")
+            return follow_press(terminal.abort());
+        break;
+    case 1: {
+        const int id = numbers->front();
+        if (what == "press")
+            return press(id < Iso::null_id && terminal.press(static_cast<Iso::Object_id>(id)));
+        if (what == "entry")
+            return enter(id, request.query);
+        if (what == "escape")
+            return escape(id);
+        break;
     }
-    return png(image);
+    case 2: {
+        const Position place{numbers->front(), numbers->back()};
+        if (what == "press")
+            return press(terminal.press(place));
+        if (what == "move")
+            return follow_press(terminal.move(place));
+        break;
+    }
+    default:
+        break;
+    }
+    return refusal(404);
+}
+
+QImage Web_page::picture()
+{
+    const auto locked = lock();
+    return renderer.draw(terminal);
 }
 
 std::string Web_page::entry()
 {
-    const auto locked = lock();
     const auto open = terminal.entry();
     if (!open)
         return "null";
@@ -266,7 +239,6 @@ std::string Web_page::entry()
 
 std::string Web_page::controls()
 {
-    const auto locked = lock();
     std::string list;
     for (const Target& target : usable_targets(terminal)) {
         const auto add = [&list](const char* name, int value) {
@@ -283,78 +255,66 @@ std::string Web_page::controls()
     return '[' + list + ']';
 }
 
-bool Web_page::show(const std::string& name)
+Http_answer Web_page::show(const std::string& name)
 {
     const auto found = std::find(choice.names.begin(), choice.names.end(), name);
     if (found == choice.names.end())
-        return false;
-    const auto locked = lock();
+        return refusal(404);
     choice.show(static_cast<std::size_t>(found - choice.names.begin()));
-    return true;
+    return {};
 }
 
-void Web_page::press(Response& response, const std::function<bool()>& begin)
+Http_answer Web_page::press(bool begun)
 {
-    const auto locked = lock();
-    if (begin())
-        return follow_press(response, true);
     // Perhaps something else is pressed, in another browser; that is not for this one to hold and release.
-    answer(response, false);
+    return begun ? follow_press(true) : said(false);
 }
 
-void Web_page::operate(Response& response, const std::function<bool()>& act)
+Http_answer Web_page::follow_press(bool something_done)
 {
-    const auto locked = lock();
-    follow_press(response, act());
-}
-
-void Web_page::follow_press(Response& response, bool something_done)
-{
-    heard = Clock::now();
+    heard = now();
     if (something_done)
         tell_application();
     const bool goes_on = terminal.pressed() != Iso::null_id;
     if (!goes_on)
         heard.reset();
-    answer(response, goes_on);
+    return said(goes_on);
 }
 
 void Web_page::end_lost_press()
-{
+try {
     const auto locked = lock();
-    if (!heard || Clock::now() - *heard < longest_silence)
+    if (!heard || now() - *heard < longest_silence)
         return;
     heard.reset();
     if (terminal.abort())
         tell_application();
+} catch (...) {
+    // There is nobody left to whom it could be shown.
 }
 
-void Web_page::enter(int id, const std::string& text, Response& response)
+Http_answer Web_page::enter(int id, const std::string& query)
 {
-    const auto locked = lock();
-    if (!is_open(id, response))
-        return;
-    const std::string refusal = terminal.enter(text);
-    if (!refusal.empty())
-        return refuse(response, 422, refusal);
+    if (!is_open(id))
+        return no_longer_open();
+    const QString text = QUrlQuery(QString::fromStdString(query)).queryItemValue("text", QUrl::FullyDecoded);
+    const std::string problem = terminal.enter(text.toStdString());
+    if (!problem.empty())
+        return refusal(422, problem);
     tell_application();
+    return {};
 }
 
-void Web_page::escape(int id, Response& response)
+Http_answer Web_page::escape(int id)
 {
-    const auto locked = lock();
-    if (is_open(id, response) && terminal.cancel())
+    if (!is_open(id))
+        return no_longer_open();
+    if (terminal.cancel())
         tell_application();
+    return {};
 }
 
-/// It may have closed, or another one opened, since the viewer has seen it.
-bool Web_page::is_open(int id, Response& response) const
-{
-    const bool open = terminal.entry() && terminal.open_number() == id;
-    if (!open)
-        refuse(response, 409, "this field is no longer open");
-    return open;
-}
+bool Web_page::is_open(int id) const { return terminal.entry() && terminal.open_number() == id; }
 
 void Web_page::tell_application() const
 {

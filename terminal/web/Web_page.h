@@ -12,16 +12,13 @@
 #include <mutex>
 #include <optional>
 #include <string>
-#include <thread>
 #include <vector>
 
-namespace httplib {
-class Server;
-struct Request;
-struct Response;
-} // namespace httplib
-
 namespace terminal {
+
+class Http_server;
+struct Http_answer;
+struct Http_request;
 
 /// The screens that an application lets the viewer choose from. Both functions are called with the Web_page locked.
 struct Screen_choice
@@ -31,13 +28,23 @@ struct Screen_choice
     std::function<void(std::size_t choice)> show; ///< what it throws is shown to the viewer
 };
 
+struct Web_settings
+{
+    /// The page's hosts besides those of the loopback, if it is reached through others: what stands in its address
+    /// between http:// and the next slash.
+    std::vector<std::string> hosts;
+    std::function<std::chrono::steady_clock::time_point()> now = std::chrono::steady_clock::now;
+    std::chrono::milliseconds between_looks{100}; ///< at what has taken too long
+};
+
 /// Shows a terminal in web browsers on this machine, from construction to destruction: its screen, kept up to date, and
 /// the choice of screens; and takes the viewer for its operator, who presses, holds and releases what the screen shows
 /// by mouse, finger or keyboard, and enters numbers in a dialog. The address is http://127.0.0.1:port()/.
 ///
-/// Terminal and renderer stay the caller's and outlive the page. The page uses them from threads of its own, one at a
-/// time and only while it is locked; so between construction and destruction of the page everybody else, too, touches
-/// them only while holding lock(). What is drawn belongs to the thread that asked for it.
+/// Terminal and renderer stay the caller's and outlive the page. The page has one thread. That one alone answers, and
+/// calls terminal, renderer, the functions of Screen_choice and `operated`; it does so only while it has locked the
+/// page. So between construction and destruction of the page everybody else, too, touches terminal and renderer only
+/// while holding lock(), and holds it briefly: all browsers wait. What is drawn belongs to the page's thread.
 ///
 /// | request                         | what it does                                                                   |
 /// |---------------------------------|--------------------------------------------------------------------------------|
@@ -59,10 +66,10 @@ struct Screen_choice
 ///
 /// The requests of a press answer, as JSON, whether that press goes on. It is the browser that has the clock: it says
 /// /hold every 200 ms. A browser that has said nothing of its press for a second is lost, and the press is aborted; the
-/// server looks for that in its spare time, and before each request.
+/// page looks for that ten times a second, and before each request.
 ///
-/// A POST is refused with 403 if it says that it comes from another site's page, or was meant for another host: what
-/// else is open in the browser does not press keys.
+/// What else is open in the browser neither presses keys nor shows this page in a frame, and Http_server limits what a
+/// client may take of time and memory.
 class Web_page
 {
   public:
@@ -72,47 +79,46 @@ class Web_page
     /// which the terminal may have told the application; what it throws is shown to the viewer, unless that one is
     /// lost.
     Web_page(Terminal& terminal, Renderer& renderer, Screen_choice choice, std::function<void()> operated,
-             std::uint16_t port);
-    /// Lets requests that have begun finish; a client that falls silent holds it up for two seconds at most. What is
-    /// pressed then is aborted.
+             std::uint16_t port, Web_settings settings = {});
+    /// Not to be called with the page locked, nor by a function that the page calls. Waits for the answer that is being
+    /// made, but for no client. What is pressed then is aborted.
     ~Web_page();
     Web_page(const Web_page&) = delete;
     Web_page& operator=(const Web_page&) = delete;
 
-    std::uint16_t port() const { return listening_port; }
+    std::uint16_t port() const;
 
     /// Keeps the page away from terminal and renderer for as long as the result lives.
     [[nodiscard]] std::unique_lock<std::mutex> lock() { return std::unique_lock(mutex); }
 
   private:
-    void add_routes();
-    void listen(std::uint16_t port);
-    bool is_own(const httplib::Request& request) const;
-    std::string html() const;
-    std::string picture();
+    Http_answer answer(const Http_request& request);
+    Http_answer read(const std::string& path);
+    Http_answer operate(const Http_request& request);
+    QImage picture();
+    void end_lost_press();
+    // These are called with the page locked.
     std::string entry();
     std::string controls();
-    bool show(const std::string& name);
-    void press(httplib::Response& response, const std::function<bool()>& begin);
-    void operate(httplib::Response& response, const std::function<bool()>& act);
-    void follow_press(httplib::Response& response, bool something_done);
-    void end_lost_press();
-    void enter(int id, const std::string& text, httplib::Response& response);
-    void escape(int id, httplib::Response& response);
-    bool is_open(int id, httplib::Response& response) const;
+    Http_answer show(const std::string& name);
+    Http_answer press(bool begun);
+    Http_answer follow_press(bool something_done);
+    Http_answer enter(int id, const std::string& query);
+    Http_answer escape(int id);
+    bool is_open(int id) const;
     void tell_application() const;
 
     Terminal& terminal;
     Renderer& renderer;
     const Screen_choice choice;
     const std::function<void()> operated;
+    const std::function<std::chrono::steady_clock::time_point()> now;
+    const std::string html;
     std::mutex mutex; ///< of terminal, renderer, `operated`, the functions of `choice`, and `heard`
     /// When a browser last said something of what it presses; nothing if it presses nothing.
     std::optional<std::chrono::steady_clock::time_point> heard;
 
-    std::uint16_t listening_port = 0;
-    std::unique_ptr<httplib::Server> server;
-    std::thread listener;
+    std::unique_ptr<Http_server> server;
 };
 
 } // namespace terminal

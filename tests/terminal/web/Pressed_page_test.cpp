@@ -3,7 +3,6 @@
 #include <chrono>
 #include <memory>
 #include <string>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -11,7 +10,6 @@ namespace terminal {
 namespace {
 
 using namespace std::chrono_literals;
-using Clock = std::chrono::steady_clock;
 using Messages = std::vector<Bytes>;
 
 class PressedPage : public WebPage
@@ -119,16 +117,16 @@ TEST_F(PressedPage, KnowsNoOtherPresses)
                              "/move/1", "/move", "/move/-1/1", "/hold/1", "/release/1", "/abort/1"})
         EXPECT_EQ(told(path, 404), Messages()) << path;
     for (const char* path : {"/press/1/1", "/move/1/1", "/hold", "/release", "/abort"})
-        EXPECT_EQ(status(client.Get(path)), 404) << path;
+        EXPECT_EQ(client.get(path).status, 404) << path;
 }
 
 TEST_F(PressedPage, TellsTheViewerWhatTheApplicationSaysToAPress)
 {
     objection = "the pool refused it";
     for (const char* path : {"/press/219/239", "/hold", "/release", "/press/219/239", "/abort"}) {
-        const auto answer = client.Post(path);
-        ASSERT_EQ(status(answer), 500) << path;
-        EXPECT_EQ(answer->body, objection);
+        const auto answer = client.post(path);
+        ASSERT_EQ(answer.status, 500) << path;
+        EXPECT_EQ(answer.body, objection);
     }
 }
 
@@ -140,7 +138,7 @@ TEST_F(PressedPage, ListsTheControlsAndSoftKeysForTheKeyboard)
     EXPECT_EQ(text("/controls"), "[" + entry("number", number, R"("left":100,"top":100,"width":20,"height":10)") + "," +
                                      entry("button", button, R"("left":200,"top":230,"width":20,"height":10)") + "," +
                                      entry("soft key", soft_key, R"("left":240,"top":0,"width":60,"height":60)") + "]");
-    EXPECT_EQ(client.Get("/controls")->get_header_value("Content-Type"), "application/json");
+    EXPECT_EQ(client.get("/controls").header("Content-Type"), "application/json");
     choose(blue_name);
     EXPECT_EQ(text("/controls"), "[]");
 }
@@ -148,64 +146,59 @@ TEST_F(PressedPage, ListsTheControlsAndSoftKeysForTheKeyboard)
 TEST_F(PressedPage, AbortsWhatALostBrowserHasPressed)
 {
     told("/press/219/239", goes_on);
-    const auto start = Clock::now();
-    int told_so_far;
-    {
+    const auto told_so_far = [this] {
         const auto locked = page.lock();
-        session.sent.clear();
-        told_so_far = times_told;
-    }
-    // Nobody asks for anything.
-    while (Clock::now() - start < 900ms) {
-        EXPECT_EQ(sent_since(), Messages());
-        std::this_thread::sleep_for(20ms);
-    }
-    Messages sent;
-    while (sent.empty() && Clock::now() - start < 5s) {
-        std::this_thread::sleep_for(20ms);
-        sent = sent_since();
-    }
-    EXPECT_EQ(sent, button_says(3));
+        return times_told;
+    };
+    const int told_of_the_press = told_so_far();
+    sent_since();
+    clock.advance(999ms);
+    clock.wait_for_a_look(); // nobody asks for anything
+    EXPECT_EQ(sent_since(), Messages());
+    clock.advance(1ms);
+    clock.wait_for_a_look();
+    EXPECT_EQ(sent_since(), button_says(3));
+    EXPECT_EQ(told_so_far(), told_of_the_press + 1);
     const auto locked = page.lock();
-    EXPECT_EQ(times_told, told_so_far + 1);
     EXPECT_EQ(session.terminal.pressed(), Pool_builder::none);
 }
 
-TEST_F(PressedPage, AbortsWhatALostBrowserHasPressedWhileOthersAskWithoutAPause)
+TEST_F(PressedPage, AbortsWhatALostBrowserHasPressedBeforeAnybodyElseIsAnswered)
 {
-    told("/press/219/239", goes_on);
-    sent_since();
-    const auto start = Clock::now();
-    Messages sent;
-    while (sent.empty() && Clock::now() - start < 5s) {
-        text("/revision");
-        sent = sent_since();
-    }
-    EXPECT_EQ(sent, button_says(3));
-    EXPECT_GE(Clock::now() - start, 900ms);
+    Web_settings settings = clock.settings();
+    settings.between_looks = 1h;
+    const Web_page other(session.terminal, renderer, {}, nullptr, 0, settings);
+    const Http_client viewer(other.port());
+    EXPECT_EQ(viewer.post("/press/219/239").body, "true");
+    session.sent.clear();
+    clock.advance(999ms);
+    EXPECT_EQ(viewer.get("/revision").status, 200);
+    EXPECT_EQ(session.sent, Messages());
+    clock.advance(1ms);
+    EXPECT_EQ(viewer.get("/revision").status, 200);
+    EXPECT_EQ(session.sent, button_says(3));
 }
 
 TEST_F(PressedPage, SurvivesThatTheApplicationObjectsToTheEndOfALostPress)
 {
     told("/press/219/239", goes_on);
+    sent_since();
     {
         const auto locked = page.lock();
-        session.sent.clear();
         objection = "the pool refused it";
     }
-    const auto start = Clock::now();
-    while (sent_since().empty() && Clock::now() - start < 5s)
-        std::this_thread::sleep_for(20ms);
-    EXPECT_EQ(status(client.Get("/revision")), 200);
+    clock.advance(1s);
+    clock.wait_for_a_look();
+    EXPECT_EQ(sent_since(), button_says(3));
+    EXPECT_EQ(client.get("/revision").status, 200);
 }
 
 TEST_F(PressedPage, KeepsAPressForAsLongAsItsBrowserSaysSo)
 {
     told("/press/219/239", goes_on);
-    const auto start = Clock::now();
-    while (Clock::now() - start < 1500ms) {
+    for (int i = 0; i < 5; ++i) {
+        clock.advance(999ms);
         EXPECT_EQ(told("/hold", goes_on), button_says(2));
-        std::this_thread::sleep_for(200ms);
     }
     EXPECT_EQ(told("/release", has_ended), button_says(0));
 }
@@ -218,7 +211,8 @@ TEST_F(PressedPage, LeavesAPressToWhoeverElseBeganIt)
         const auto locked = page.lock();
         ASSERT_TRUE(session.terminal.press(button));
     }
-    std::this_thread::sleep_for(1200ms);
+    clock.advance(1h);
+    clock.wait_for_a_look();
     const auto locked = page.lock();
     EXPECT_EQ(session.terminal.pressed(), button);
 }
@@ -226,7 +220,7 @@ TEST_F(PressedPage, LeavesAPressToWhoeverElseBeganIt)
 TEST_F(PressedPage, AbortsWhatIsPressedWhenItEnds)
 {
     auto other = std::make_unique<Web_page>(session.terminal, renderer, Screen_choice(), nullptr, 0);
-    EXPECT_EQ(status(httplib::Client("127.0.0.1", other->port()).Post("/press/219/239")), 200);
+    EXPECT_EQ(Http_client(other->port()).post("/press/219/239").status, 200);
     session.sent.clear();
     other.reset();
     EXPECT_EQ(sent_since(), button_says(3));

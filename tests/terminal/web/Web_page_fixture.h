@@ -4,18 +4,54 @@
 #include "terminal/web/Web_page.h"
 #include "tests/terminal/Session.h"
 #include "tests/terminal/draw/Pool_builder.h"
+#include "tests/terminal/web/Http_client.h"
 
 #include <QImage>
 #include <QUrl>
 
 #include <gtest/gtest.h>
-#include <httplib.h>
 
+#include <atomic>
+#include <chrono>
 #include <stdexcept>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace terminal {
+
+/// The time of a page, which stands still until a test lets it go on.
+class Manual_clock
+{
+  public:
+    using Duration = std::chrono::milliseconds;
+
+    void advance(Duration by) { elapsed += by.count(); }
+
+    /// A page that is asked for nothing looks at the clock whenever it looks for what has taken too long.
+    Web_settings settings()
+    {
+        Web_settings settings;
+        settings.now = [this] {
+            ++n_looks;
+            return std::chrono::steady_clock::time_point(Duration(elapsed));
+        };
+        settings.between_looks = Duration(5);
+        return settings;
+    }
+
+    /// Returns when the page, asked for nothing, has looked for what has taken too long at the time that it is now.
+    void wait_for_a_look() const
+    {
+        // The one that is under way may have seen the time before. Each look asks for the time twice at most.
+        for (const int enough = n_looks + 4; n_looks < enough;)
+            std::this_thread::sleep_for(Duration(1));
+    }
+
+  private:
+    std::atomic<Duration::rep> elapsed{1'000'000};
+    std::atomic<int> n_looks{0};
+};
 
 /// A terminal that shows one of two screens, a red and a blue one with different squares, and its page. The red screen
 /// has an input number, a button, and a soft key, too.
@@ -82,16 +118,17 @@ class WebPage : public testing::Test
 
     QImage sent()
     {
-        const auto answer = client.Get("/screen.png");
-        EXPECT_TRUE(answer && answer->status == 200 && answer->get_header_value("Content-Type") == "image/png");
-        return answer ? QImage::fromData(QByteArray::fromStdString(answer->body), "PNG") : QImage();
+        const Answer answer = client.get("/screen.png");
+        EXPECT_EQ(answer.status, 200);
+        EXPECT_EQ(answer.header("Content-Type"), "image/png");
+        return QImage::fromData(QByteArray::fromStdString(answer.body), "PNG");
     }
 
     std::string text(const char* path)
     {
-        const auto answer = client.Get(path);
-        EXPECT_TRUE(answer && answer->status == 200) << path;
-        return answer ? answer->body : "no answer";
+        const Answer answer = client.get(path);
+        EXPECT_EQ(answer.status, 200) << path;
+        return answer.body;
     }
 
     /// What the application is told of a request, and by the page, that there is something to be told.
@@ -102,9 +139,9 @@ class WebPage : public testing::Test
             session.sent.clear();
             times_told = 0;
         }
-        const auto answer = client.Post(path);
-        EXPECT_EQ(status(answer), expected_status) << path;
-        last_answer = answer ? answer->body : "";
+        const Answer answer = client.post(path);
+        EXPECT_EQ(answer.status, expected_status) << path;
+        last_answer = answer.body;
         const auto locked = page.lock();
         EXPECT_LE(times_told, 1) << path;
         EXPECT_GE(times_told, session.sent.empty() ? 0 : 1) << path;
@@ -126,10 +163,9 @@ class WebPage : public testing::Test
         return told("/release", false);
     }
 
-    int status(const httplib::Result& answer) { return answer ? answer->status : -1; }
     int choose(const std::string& name)
     {
-        return status(client.Post("/page/" + QUrl::toPercentEncoding(QString::fromStdString(name)).toStdString()));
+        return client.post("/page/" + QUrl::toPercentEncoding(QString::fromStdString(name)).toStdString()).status;
     }
 
     Pool_builder::Id red, blue, working_set, number, button, soft_key;
@@ -138,8 +174,9 @@ class WebPage : public testing::Test
     std::string objection;   ///< that the application has with what it is told
     Session session{hardware()};
     Renderer renderer;
-    Web_page page{session.terminal, renderer, choice(), [this] { take(); }, 0};
-    httplib::Client client{"127.0.0.1", page.port()};
+    Manual_clock clock;
+    Web_page page{session.terminal, renderer, choice(), [this] { take(); }, 0, clock.settings()};
+    Http_client client{page.port()};
 };
 
 } // namespace terminal
