@@ -165,7 +165,7 @@ Http_answer Web_page::read(const std::string& path)
     if (path == "/")
         return {200, "text/html; charset=utf-8", html};
     if (path == "/screen.png")
-        return {200, "image/png", png(picture())};
+        return {200, "image/png", picture()};
     const auto locked = lock();
     if (path == "/revision")
         return {200, plain_text, std::to_string(terminal.revision())};
@@ -221,10 +221,21 @@ Http_answer Web_page::operate(const Http_request& request)
     return refusal(404);
 }
 
-QImage Web_page::picture()
+/// Drawn once for all who want to see it.
+const std::string& Web_page::picture()
 {
-    const auto locked = lock();
-    return renderer.draw(terminal);
+    QImage image;
+    std::uint32_t revision;
+    {
+        const auto locked = lock();
+        revision = terminal.revision();
+        if (revision == pictured)
+            return last_picture;
+        image = renderer.draw(terminal);
+    }
+    last_picture = png(image);
+    pictured = revision;
+    return last_picture;
 }
 
 std::string Web_page::entry()

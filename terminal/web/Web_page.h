@@ -95,7 +95,7 @@ class Web_page
     Http_answer answer(const Http_request& request);
     Http_answer read(const std::string& path);
     Http_answer operate(const Http_request& request);
-    QImage picture();
+    const std::string& picture();
     void end_lost_press();
     // These are called with the page locked.
     std::string entry();
@@ -117,6 +117,9 @@ class Web_page
     std::mutex mutex; ///< of terminal, renderer, `operated`, the functions of `choice`, and `heard`
     /// When a browser last said something of what it presses; nothing if it presses nothing.
     std::optional<std::chrono::steady_clock::time_point> heard;
+    // Of the page's thread alone:
+    std::optional<std::uint32_t> pictured; ///< the revision of the last picture
+    std::string last_picture;              ///< as a file
 
     std::unique_ptr<Http_server> server;
 };

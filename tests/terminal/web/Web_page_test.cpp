@@ -43,6 +43,22 @@ TEST_F(WebPage, SendsTheScreenExactlyAsItIsDrawn)
     EXPECT_EQ(picture, drawn());
 }
 
+TEST_F(WebPage, DrawsTheScreenOnceForAllWhoAsk)
+{
+    const QImage first = sent();
+    std::int64_t other_work;
+    {
+        const auto locked = page.lock();
+        const std::int64_t work = renderer.work();
+        renderer.draw_key(session.terminal.pool(), session.terminal.pool().find(soft_key), 10, 10);
+        other_work = renderer.work();
+        ASSERT_NE(other_work, work);
+    }
+    EXPECT_EQ(sent(), first);
+    const auto locked = page.lock();
+    EXPECT_EQ(renderer.work(), other_work);
+}
+
 TEST_F(WebPage, FollowsWhatTheApplicationShows)
 {
     const std::string before = text("/revision");
