@@ -156,10 +156,10 @@ TEST(PoolFailedPreparation, LeavesALivePoolsListsAndReferences)
     for (VT::VT_obj* object : std::initializer_list<VT::VT_obj*>{&live.mask, &live.frame.parent, &live.rectangle})
         object->upload(true);
     // The frame counts as changed once more, so the mask takes it along.
-    EXPECT_EQ(live.terminal.take_sent(), (std::vector<Bytes>{join(0x11, Live::frame_record()),
-                                                             join(0x11, Live::mask_record()), frame(0x12), //
-                                                             join(0x11, Live::frame_record()), frame(0x12),
-                                                             join(0x11, Live::rectangle_record(4)), frame(0x12)}));
+    EXPECT_EQ(live.terminal.take_sent(),
+              (std::vector<Bytes>{join(0x11, Live::frame_record()), join(0x11, Live::mask_record()), frame(0x12), //
+                                  join(0x11, Live::frame_record()), frame(0x12), join(0x11, Live::rectangle_record(4)),
+                                  frame(0x12)}));
 
     ASSERT_TRUE(live.pool.prepare());
     EXPECT_EQ(live.mask.num_objects, 2);
