@@ -20,23 +20,6 @@ constexpr std::uint8_t version = 4;
 
 } // namespace
 
-std::size_t transfer_records(Client::Terminal_link& link, std::vector<std::uint8_t>& message,
-                             const std::function<bool(std::size_t)>& go_on)
-{
-    constexpr std::size_t most = Iso::transport_size - 1;
-    const std::size_t total = message.size() - 1;
-    for (std::size_t sent = 0; sent < total;) {
-        const std::size_t count = std::min(most, total - sent);
-        message[sent] = static_cast<std::uint8_t>(Iso::Function::object_pool_transfer);
-        if (!link.send(message.data() + sent, count + 1))
-            return sent;
-        sent += count;
-        if (go_on && !go_on(sent))
-            return sent;
-    }
-    return total;
-}
-
 bool send_frame(Client::Terminal_link& link, Iso::Function function, std::initializer_list<std::uint8_t> rest)
 {
     std::array<std::uint8_t, Iso::frame_size> frame;
@@ -64,34 +47,40 @@ bool Dialogue::send(Iso::Function function, std::initializer_list<std::uint8_t> 
 
 bool Dialogue::maintain(bool first)
 {
-    maintained = Clock::now();
+    maintained = now();
     return send_maintenance(link, first) ||
            fail(Error::link_refused, "The link refused " + name_of(Iso::Function::working_set_maintenance));
+}
+
+bool Dialogue::maintain_if_due() { return now() < maintained + maintenance_period || maintain(); }
+
+/// A link may give up waiting early; it has waited all the same.
+bool Dialogue::receive(Time until)
+{
+    const auto left = [&] { return std::max(until - now(), Time::duration::zero()); };
+    if (link.receive(received, std::chrono::ceil<milliseconds>(left())))
+        return true;
+    given_up += left();
+    return false;
 }
 
 template <class T>
 bool Dialogue::wait_for(T& answer, Iso::Function question, milliseconds timeout)
 {
-    const Clock::time_point asked = Clock::now();
-    milliseconds idle{0}; // a link may give up waiting early; it has waited all the same
-    while (idle < timeout && Clock::now() - asked < timeout) {
-        const milliseconds slice = std::min(maintenance_period, timeout - idle);
-        if (link.receive(received, slice)) {
-            const Terminal_message message = decode(received.data(), received.size());
-            if (const T* const wanted = std::get_if<T>(&message)) {
-                answer = *wanted;
-                return true;
-            }
-            const auto* const unknown = std::get_if<Unsupported_function_response>(&message);
-            if (unknown && unknown->function == question)
-                return fail(Error::unusable_terminal, "The terminal does not know " + name_of(question));
-        } else {
-            idle += slice;
-            if (idle < timeout && !maintain())
-                return false;
-        }
-        if (Clock::now() - maintained >= maintenance_period && !maintain())
+    const Time end = now() + timeout;
+    while (now() < end) {
+        if (!maintain_if_due())
             return false;
+        if (!receive(std::min(end, maintained + maintenance_period)))
+            continue;
+        const Terminal_message message = decode(received.data(), received.size());
+        if (const T* const wanted = std::get_if<T>(&message)) {
+            answer = *wanted;
+            return true;
+        }
+        const auto* const unknown = std::get_if<Unsupported_function_response>(&message);
+        if (unknown && unknown->function == question)
+            return fail(Error::unusable_terminal, "The terminal does not know " + name_of(question));
     }
     return fail(Error::timed_out, "The terminal did not answer " + name_of(question) + " within " +
                                       std::to_string(timeout.count()) + " ms");
@@ -116,20 +105,23 @@ bool Dialogue::ask_memory(std::size_t pool_size, milliseconds timeout)
            fail(Error::not_enough_memory, "The terminal has no room for " + std::to_string(pool_size) + " bytes");
 }
 
-bool Dialogue::transfer(std::vector<std::uint8_t>& message,
-                        const std::function<void(std::size_t, std::size_t)>& progress)
+bool Dialogue::transfer(Records& records, const std::function<void(std::size_t, std::size_t)>& progress)
 {
-    const std::size_t total = message.size() - 1;
-    bool alive = true;
-    const std::size_t sent = transfer_records(link, message, [&](std::size_t so_far) {
+    const std::size_t total = records.bytes.size() - 1;
+    std::size_t sent = 0;
+    for (const std::size_t end : records.messages) {
+        std::uint8_t* const message = records.bytes.data() + sent;
+        *message = static_cast<std::uint8_t>(Iso::Function::object_pool_transfer);
+        if (!link.send(message, 1 + end - sent))
+            return fail(Error::link_refused,
+                        "The link refused the pool at byte " + std::to_string(sent) + " of " + std::to_string(total));
+        sent = end;
         if (progress)
-            progress(so_far, total);
-        return alive = Clock::now() - maintained < maintenance_period || maintain();
-    });
-    if (!alive)
-        return false;
-    return sent == total || fail(Error::link_refused, "The link refused the pool at byte " + std::to_string(sent) +
-                                                          " of " + std::to_string(total));
+            progress(sent, total);
+        if (!maintain_if_due())
+            return false;
+    }
+    return true;
 }
 
 bool Dialogue::end(End_of_object_pool_response& response, milliseconds timeout)

@@ -35,6 +35,16 @@ class Listening
     Result*& listener;
 };
 
+/// For records, in a message of the link.
+std::size_t room_in(const Client::Terminal_link& link) { return std::max(link.longest_message(), Iso::frame_size) - 1; }
+
+Problem too_long(const VT_obj& object, std::size_t size, std::size_t room)
+{
+    return {Error::too_long_record, object.get_id(), name_of(object),
+            describe(object) + " has a record of " + std::to_string(size) +
+                " bytes; the link's longest message has room for " + std::to_string(room)};
+}
+
 } // namespace
 
 Pool::Pool() : kinds(std::make_unique<Kinds>()) {}
@@ -139,64 +149,56 @@ void Pool::scale_new(const Preparation& run, Result& result)
     scaled = objects.size();
 }
 
-void Pool::write_records(Record_writer& writer)
-{
-    largest_record = 0;
-    for (std::size_t place = 0; place < objects.size(); ++place)
-        if (objects[place])
-            largest_record = std::max(largest_record, writer.write(*objects[place]));
-}
-
 Result Pool::serialise(std::vector<std::uint8_t>& records)
 {
     Result result = prepare();
     records.clear();
-    if (result) {
-        Record_writer writer(records, Record_writer::Reader::file);
-        write_records(writer);
-    }
+    if (!result)
+        return result;
+    Record_writer writer(records, Record_writer::Reader::file);
+    for (std::size_t place = 0; place < objects.size(); ++place)
+        if (objects[place])
+            writer.write(*objects[place]);
     return result;
 }
 
 Result Pool::ask_hardware(Client::Terminal_link& terminal, std::chrono::milliseconds timeout)
 {
-    Result result = ask(terminal, timeout);
-    if (result)
+    live = false; // the terminal forgets the pool
+    Result result;
+    Dialogue dialogue(terminal, result.errors);
+    if (ask(dialogue, timeout))
         routes.deliver_to_all(&*terminal_information);
     return result;
 }
 
-Result Pool::ask(Client::Terminal_link& terminal, std::chrono::milliseconds timeout)
+bool Pool::ask(Dialogue& dialogue, std::chrono::milliseconds timeout)
 {
-    live = false; // the terminal forgets the pool
-    Result result;
-    Dialogue dialogue(terminal, result.errors);
     VT_information answer{};
-    if (dialogue.begin() && dialogue.ask_hardware(answer, timeout))
-        terminal_information = answer;
-    return result;
+    if (!dialogue.begin() || !dialogue.ask_hardware(answer, timeout))
+        return false;
+    terminal_information = answer;
+    return true;
 }
 
 Result Pool::load(Client::Terminal_link& terminal, const Progress& progress, const Timeouts& timeouts)
 {
     disconnect();
+    Result result;
+    Dialogue dialogue(terminal, result.errors);
     // Components are laid out already: what they would change on the answer comes too late.
-    Result result = ask(terminal, timeouts.answer);
-    if (!result)
+    if (!ask(dialogue, timeouts.answer))
         return result;
     result = prepare();
     if (!result)
         return result;
-
-    std::vector<std::uint8_t> records{0}; // see transfer_records()
-    Record_writer writer(records, Record_writer::Reader::terminal);
-    write_records(writer);
-    message.reserve(largest_record + Iso::frame_size);
+    Records records = write_records(room_in(terminal), result.errors);
+    if (!result)
+        return result;
     looked_at.reserve(objects.ids());
 
-    Dialogue dialogue(terminal, result.errors);
     End_of_object_pool_response response{};
-    if (!dialogue.ask_memory(records.size() - 1, timeouts.answer) || !dialogue.transfer(records, progress) ||
+    if (!dialogue.ask_memory(records.bytes.size() - 1, timeouts.answer) || !dialogue.transfer(records, progress) ||
         !dialogue.end(response, timeouts.acceptance))
         return result;
     if (!response.accepted) {
@@ -210,6 +212,32 @@ Result Pool::load(Client::Terminal_link& terminal, const Progress& progress, con
         if (objects[place])
             objects[place]->upload(false);
     return result;
+}
+
+/// As many records as fit in each message, in the order of their places.
+Records Pool::write_records(std::size_t room, std::vector<Problem>& errors)
+{
+    Records records;
+    Record_writer writer(records.bytes, Record_writer::Reader::terminal);
+    std::size_t largest = 0;
+    std::size_t begin = 0; // of the present message
+    std::size_t end = 0;
+    for (std::size_t place = 0; place < objects.size(); ++place) {
+        if (!objects[place])
+            continue;
+        const std::size_t size = writer.write(*objects[place]);
+        if (size > room)
+            errors.push_back(too_long(*objects[place], size, room));
+        if (end + size - begin > room) {
+            records.messages.push_back(end);
+            begin = end;
+        }
+        end += size;
+        largest = std::max(largest, size);
+    }
+    records.messages.push_back(end);
+    message.reserve(largest + Iso::frame_size);
+    return records;
 }
 
 bool Pool::maintain()
@@ -316,9 +344,15 @@ bool Pool::send_changes_below(VT_obj& object)
 
 bool Pool::send_record(VT_obj& object)
 {
-    message.assign(1, 0); // see transfer_records()
+    message.assign(1, static_cast<std::uint8_t>(Iso::Function::object_pool_transfer));
     const std::size_t size = Record_writer(message, Record_writer::Reader::terminal).write(object);
-    if (transfer_records(*link, message, {}) == size)
+    const std::size_t room = room_in(*link);
+    if (size > room) {
+        disconnect();
+        note(too_long(object, size, room));
+        return false;
+    }
+    if (link->send(message.data(), message.size()))
         return true;
     lose_link("the record of " + describe(object));
     return false;

@@ -24,18 +24,19 @@
 
 namespace VT {
 
+class Dialogue;
 class Kinds;
 class Preparation;
-class Record_writer;
+struct Records;
 
-/// How much of the pool the terminal has been sent, of how many bytes.
+/// How much of the pool the link has taken, of how many bytes: told after each message, of which one may hold all.
 using Progress = std::function<void(std::size_t sent, std::size_t total)>;
 
 /// How long the terminal may take for an answer.
 struct Timeouts
 {
     std::chrono::milliseconds answer{3000};      ///< to a question about itself
-    std::chrono::milliseconds acceptance{30000}; ///< to look through the whole pool
+    std::chrono::milliseconds acceptance{30000}; ///< to look through the whole pool, from when the link has taken it
 };
 
 /// The pool of one working set: collects the application's objects, gives them their ids, loads them into a terminal
@@ -177,12 +178,12 @@ class VTUI_EXPORT Pool final : public vtui_pool
         String_variable_obj object;
     };
 
-    Result ask(Client::Terminal_link& terminal, std::chrono::milliseconds timeout);
+    bool ask(Dialogue& dialogue, std::chrono::milliseconds timeout);
     void take_note(const Terminal_message& received);
     bool send_record(VT_obj& object);
     bool send_changes_below(VT_obj& object);
     void scale_new(const Preparation& run, Result& result);
-    void write_records(Record_writer& writer);
+    Records write_records(std::size_t room, std::vector<Problem>& errors);
     void note(Problem&& problem);
     std::string mention(Iso::Object_id id) const;
     Problem problem(Error error, Iso::Object_id id, const std::string& text) const;
@@ -208,7 +209,6 @@ class VTUI_EXPORT Pool final : public vtui_pool
     std::optional<VT_information> terminal_information;
     Client::Terminal_link* link{nullptr}; ///< not owned
     bool live{false};
-    std::size_t largest_record{0};
     std::vector<std::uint8_t> message; ///< has room for every message of a live pool
     std::vector<bool> looked_at;       ///< by object id, while records are uploaded
 };

@@ -25,6 +25,7 @@ enum class Error : std::uint8_t {
     unknown_colour,    ///< a symbolic colour that nobody knows
     does_not_fit,      ///< the object would leave 16-bit coordinates when the pool is scaled
     other_mask_size,   ///< the pool was scaled for a terminal of another size
+    too_long_record,   ///< an object's record fits no message that the link carries
     unusable_terminal, ///< the terminal says something of itself that cannot be
     link_refused,      ///< the link took no more messages
     timed_out,         ///< the terminal did not answer

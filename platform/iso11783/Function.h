@@ -36,6 +36,12 @@ enum class Function : std::uint8_t {
     get_text_font_data = 0xC3,
     get_hardware = 0xC7,
 
+    store_version = 0xD0,
+    load_version = 0xD1,
+    delete_version = 0xD2,
+    get_versions = 0xDF,
+    versions = 0xE0, ///< the terminal's answer to Get Versions
+
     unsupported_function = 0xFD, ///< the terminal's answer to a function that it does not know
     terminal_status = 0xFE,
     working_set_maintenance = 0xFF,
@@ -47,8 +53,9 @@ enum class Activation : std::uint8_t { released = 0, pressed = 1, held = 2, abor
 /// Messages shorter than this are filled up with 0xFF; longer ones travel in a transport session.
 inline constexpr std::size_t frame_size = 8;
 
-/// What a transport session that every terminal understands carries at most.
+/// What a transport session carries at most, and an extended one.
 inline constexpr std::size_t transport_size = 1785;
+inline constexpr std::size_t extended_transport_size = 117'440'505;
 
 } // namespace Iso
 

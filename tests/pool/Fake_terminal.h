@@ -1,6 +1,7 @@
 #ifndef TESTS_POOL_FAKE_TERMINAL_H
 #define TESTS_POOL_FAKE_TERMINAL_H
 
+#include "iso11783/Function.h"
 #include "tests/Bytes.h"
 #include "vt/Terminal_link.h"
 
@@ -17,6 +18,7 @@ class Fake_terminal : public VT::Client::Terminal_link
   public:
     std::vector<Bytes> sent;
     std::size_t refuse_from{std::numeric_limits<std::size_t>::max()}; ///< this message and all after it are refused
+    std::size_t longest{Iso::extended_transport_size};                ///< bytes that one message may have
 
     /// By the function asked; a function without an answer is met with silence.
     std::map<std::uint8_t, Bytes> answers{
@@ -45,6 +47,8 @@ class Fake_terminal : public VT::Client::Terminal_link
         inbox.pop_front();
         return true;
     }
+
+    std::size_t longest_message() const override { return longest; }
 
     /// What was sent since the last call.
     std::vector<Bytes> take_sent()

@@ -201,24 +201,39 @@ TEST(PoolLive, UploadsAMaskAsItWasLoadedWhileNewChildrenWait)
               (std::vector<Bytes>{join(0x11, w(1), 1, 0, w(0xFFFF), 1, 0, w(2), w(1), w(2)), frame(0x12)}));
 }
 
-TEST(PoolLive, CutsARecordThatIsTooLongForOneMessage)
+TEST(PoolLive, SendsALongRecordInOneMessage)
 {
     Bytes pixels(3000, 0x55);
     C::Picture_graphic_obj picture(1, 1, 1, 2, 0, 0, 3000, pixels.data());
     Screen screen;
     screen.pool.add(picture);
     Fake_terminal terminal;
+    terminal.longest = 1 + 17 + 3000;
     ASSERT_TRUE(screen.pool.load(terminal));
     terminal.take_sent();
     picture.upload(true);
-    const std::vector<Bytes> sent = terminal.take_sent();
-    ASSERT_EQ(sent.size(), 3u);
-    EXPECT_EQ(join(Bytes(sent[0].begin() + 1, sent[0].end()), Bytes(sent[1].begin() + 1, sent[1].end())),
-              join(w(2), 20, w(1), w(1), w(1), 2, 0, 0, d(3000), 0, pixels));
-    EXPECT_EQ(sent[0].size(), 1785u);
-    EXPECT_EQ(sent[0][0], 0x11);
-    EXPECT_EQ(sent[1][0], 0x11);
-    EXPECT_EQ(sent[2], frame(0x12));
+    EXPECT_EQ(terminal.take_sent(),
+              (std::vector<Bytes>{join(0x11, w(2), 20, w(1), w(1), w(1), 2, 0, 0, d(3000), 0, pixels), frame(0x12)}));
+}
+
+TEST(PoolLive, EndsWithARecordThatHasBecomeTooLongForTheLink)
+{
+    Panel panel;
+    panel.load();
+    panel.terminal.longest = 1 + 12;
+    panel.rectangle.upload(true); // 13 bytes
+    EXPECT_EQ(panel.terminal.take_sent(), std::vector<Bytes>());
+    EXPECT_FALSE(panel.pool.is_live());
+    const std::vector<VT::Problem> problems = panel.pool.take_problems();
+    ASSERT_EQ(problems.size(), 1u);
+    EXPECT_EQ(problems[0].error, Error::too_long_record);
+    EXPECT_EQ(problems[0].text, "rectangle 3 has a record of 13 bytes; the link's longest message has room for 12");
+
+    panel.terminal.longest = 1785;
+    panel.load();
+    panel.terminal.longest = 1 + 13;
+    panel.rectangle.upload(true);
+    EXPECT_EQ(panel.terminal.take_sent().size(), 2u);
 }
 
 TEST(PoolLive, EndsWhenTheLinkRefusesAMessage)
@@ -280,6 +295,26 @@ TEST(PoolLive, AllocatesNothing)
     }
     EXPECT_EQ(allocations(), before);
     EXPECT_TRUE(panel.pool.is_live());
+}
+
+TEST(PoolLive, HasRoomForItsLargestRecordWhereverThatStands)
+{
+    Bytes pixels(2000);
+    C::Picture_graphic_obj picture(1, 1, 1, 2, 0, 0, 2000, pixels.data());
+    for (const bool first : {true, false}) {
+        Screen screen;
+        C::Rectangle_obj rectangle;
+        using Order = std::initializer_list<VT::VT_obj*>;
+        for (VT::VT_obj* object : first ? Order{&picture, &rectangle} : Order{&rectangle, &picture})
+            screen.pool.add(*object);
+        Drain terminal;
+        ASSERT_TRUE(screen.pool.load(terminal));
+        terminal.quiet = true;
+        const std::size_t before = allocations();
+        picture.upload(true);
+        EXPECT_EQ(allocations(), before);
+        EXPECT_TRUE(screen.pool.is_live());
+    }
 }
 
 TEST(PoolReceiving, NotesWhatTheOperatorEntered)

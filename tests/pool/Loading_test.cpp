@@ -1,3 +1,4 @@
+#include "terminal/Object_pool.h"
 #include "tests/pool/Fake_terminal.h"
 #include "tests/pool/Screen.h"
 #include "vtui/comp/objects/Container_obj.h"
@@ -16,24 +17,46 @@ const Bytes maintenance = frame(0xFF, 0, 4);
 const Bytes get_hardware = frame(0xC7);
 const Bytes end_of_pool = frame(0x12);
 
-/// A pool that needs three transfers: 18 bytes of a screen and a picture of 4000.
+/// A picture whose record has that many bytes.
+struct Picture
+{
+    explicit Picture(std::size_t record_size) : pixels(record_size - header)
+    {
+        for (std::size_t i = 0; i < pixels.size(); ++i)
+            pixels[i] = static_cast<std::uint8_t>(i * 7);
+    }
+
+    Bytes record(int id) const
+    {
+        return join(w(id), 20, w(1), w(1), w(1), 2, 0, 0, d(static_cast<std::int64_t>(pixels.size())), 0, pixels);
+    }
+
+    static constexpr std::size_t header = 17;
+    Bytes pixels;
+    C::Picture_graphic_obj object{1, 1, 1, 2, 0, 0, static_cast<std::uint32_t>(pixels.size()), pixels.data()};
+};
+
+/// A pool of three messages of 1785 bytes: the first two full, with the screen and a picture, and with a picture alone.
 struct Large : Screen
 {
     Large()
     {
-        for (std::size_t i = 0; i < pixels.size(); ++i)
-            pixels[i] = static_cast<std::uint8_t>(i * 7);
-        pool.add(picture);
+        for (Picture* picture : {&beside_the_screen, &alone, &last})
+            pool.add(picture->object);
+        terminal.longest = 1785;
     }
 
-    Bytes pixels = Bytes(4000 - 17);
-    C::Picture_graphic_obj picture{1, 1, 1, 2, 0, 0, static_cast<std::uint32_t>(pixels.size()), pixels.data()};
-    static constexpr int size = 18 + 4000;
-
-    Bytes all_records() const
+    std::vector<Bytes> transfers() const
     {
-        return join(own_records(), w(2), 20, w(1), w(1), w(1), 2, 0, 0, d(4000 - 17), 0, pixels);
+        return {join(0x11, own_records(), beside_the_screen.record(2)), join(0x11, alone.record(3)),
+                join(0x11, last.record(4))};
     }
+
+    Picture beside_the_screen{1784 - 18};
+    Picture alone{1784};
+    Picture last{450};
+    Fake_terminal terminal;
+    static constexpr int size = 1784 + 1784 + 450;
 };
 
 VT::Problem only_error(const VT::Result& result)
@@ -81,25 +104,111 @@ TEST(PoolLoading, IsUndoneByAskingForTheHardware)
     EXPECT_FALSE(screen.pool.is_live());
 }
 
-TEST(PoolLoading, CutsThePoolToTransportSessionsAndTellsTheProgress)
+using Steps = std::vector<std::pair<std::size_t, std::size_t>>;
+
+TEST(PoolLoading, PutsAWholePoolIntoOneMessage)
 {
     Large large;
     Fake_terminal terminal;
-    using Step = std::pair<std::size_t, std::size_t>;
-    std::vector<Step> steps;
+    Steps steps;
     ASSERT_TRUE(large.pool.load(terminal, [&](std::size_t sent, std::size_t total) {
+        EXPECT_EQ(terminal.sent.size(), 4u);
         steps.push_back({sent, total});
     }));
-    EXPECT_EQ(steps, (std::vector<Step>{{1784, Large::size}, {3568, Large::size}, {Large::size, Large::size}}));
-    ASSERT_EQ(terminal.sent.size(), 7u);
-    EXPECT_EQ(terminal.sent[2], frame(0xC0, 0xFF, d(Large::size)));
-    Bytes received;
-    for (std::size_t i = 3; i < 6; ++i) {
-        EXPECT_LE(terminal.sent[i].size(), 1785u);
-        EXPECT_EQ(terminal.sent[i][0], 0x11);
-        received.insert(received.end(), terminal.sent[i].begin() + 1, terminal.sent[i].end());
+    EXPECT_EQ(steps, (Steps{{Large::size, Large::size}}));
+    EXPECT_EQ(terminal.sent, (std::vector<Bytes>{first_maintenance, get_hardware, frame(0xC0, 0xFF, d(Large::size)),
+                                                 join(0x11, Screen::own_records(), large.beside_the_screen.record(2),
+                                                      large.alone.record(3), large.last.record(4)),
+                                                 end_of_pool}));
+}
+
+TEST(PoolLoading, CutsThePoolToWhatTheLinkTakesAndTellsTheProgress)
+{
+    Large large;
+    Steps steps;
+    ASSERT_TRUE(large.pool.load(large.terminal, [&](std::size_t sent, std::size_t total) {
+        EXPECT_EQ(large.terminal.sent.size(), 4 + steps.size());
+        steps.push_back({sent, total});
+    }));
+    EXPECT_EQ(steps, (Steps{{1784, Large::size}, {3568, Large::size}, {Large::size, Large::size}}));
+    const std::vector<Bytes> transfers = large.transfers();
+    EXPECT_EQ(large.terminal.sent,
+              (std::vector<Bytes>{first_maintenance, get_hardware, frame(0xC0, 0xFF, d(Large::size)), transfers[0],
+                                  transfers[1], transfers[2], end_of_pool}));
+}
+
+TEST(PoolLoading, CutsNoRecordInTwo)
+{
+    const std::pair<std::size_t, const char*> cuts[] = {
+        {59, "0 1 2 3 4 5"},           // bytes: 1, then 10 8 10 10 10 10
+        {58, "0 1 2 3 4 | 5"},         //
+        {29, "0 1 2 | 3 4 | 5"},       // the first message is full
+        {28, "0 1 | 2 3 | 4 5"},       //
+        {19, "0 1 | 2 | 3 | 4 | 5"},   //
+        {18, "0 | 1 | 2 | 3 | 4 | 5"}, //
+        {11, "0 | 1 | 2 | 3 | 4 | 5"},
+    };
+    for (const auto& [longest, expected] : cuts) {
+        std::vector<C::Container_obj> containers(4);
+        Screen screen;
+        for (C::Container_obj& container : containers)
+            screen.pool.add(container);
+        Fake_terminal terminal;
+        terminal.longest = longest;
+        ASSERT_TRUE(screen.pool.load(terminal));
+        std::string cut;
+        for (const Bytes& message : terminal.sent) {
+            if (message[0] != 0x11)
+                continue;
+            EXPECT_LE(message.size(), longest);
+            terminal::Object_pool alone; // as terminals read it that look at each message by itself
+            EXPECT_FALSE(alone.parse(Bytes(message.begin() + 1, message.end())));
+            cut += cut.empty() ? "" : " |";
+            alone.for_each(
+                [&cut](terminal::Object object) { cut += (cut.empty() ? "" : " ") + std::to_string(object.id()); });
+        }
+        EXPECT_EQ(cut, expected) << longest;
     }
-    EXPECT_EQ(received, large.all_records());
+}
+
+TEST(PoolLoading, EndsBeforeTheTransferWithEachRecordThatIsTooLongForTheLink)
+{
+    C::Container_obj frame_of_page;
+    frame_of_page.set_name("frame");
+    for (const std::size_t longest : {10U, 8U, 0U}) { // no less than 8 is assumed
+        Screen screen;
+        screen.pool.add(frame_of_page);
+        Fake_terminal terminal;
+        terminal.longest = longest;
+        const VT::Result result = screen.pool.load(terminal);
+        ASSERT_EQ(result.errors.size(), longest == 10 ? 2u : 3u);
+        for (const VT::Problem& error : result.errors)
+            EXPECT_EQ(error.error, Error::too_long_record);
+        const std::string room = std::to_string(longest == 10 ? 9 : 7);
+        EXPECT_EQ(result.errors.front().text,
+                  "working set 0 has a record of 10 bytes; the link's longest message has room for " + room);
+        EXPECT_EQ(result.errors.back().text,
+                  "container 'frame' (2) has a record of 10 bytes; the link's longest message has room for " + room);
+        EXPECT_EQ(result.errors.back().object, "frame");
+        EXPECT_EQ(result.errors.back().id, 2);
+        EXPECT_EQ(terminal.take_sent(), (std::vector<Bytes>{first_maintenance, get_hardware}));
+        EXPECT_FALSE(screen.pool.is_live());
+
+        terminal.longest = 11;
+        EXPECT_TRUE(screen.pool.load(terminal));
+    }
+}
+
+TEST(PoolLoading, AsksForRoomForPoolsOfAnySize)
+{
+    constexpr int size = 0x01020304;
+    Screen screen;
+    Picture picture{size - 18};
+    screen.pool.add(picture.object);
+    Fake_terminal terminal;
+    terminal.refuse_from = 3; // nobody needs the picture
+    EXPECT_FALSE(screen.pool.load(terminal));
+    EXPECT_EQ(terminal.sent.back(), join(0xC0, 0xFF, 4, 3, 2, 1, 0xFF, 0xFF));
 }
 
 TEST(PoolLoading, NamesTheStepAtWhichTheLinkBreaks)
@@ -115,17 +224,16 @@ TEST(PoolLoading, NamesTheStepAtWhichTheLinkBreaks)
     };
     for (const auto& [messages, text] : steps) {
         Large large;
-        Fake_terminal terminal;
-        terminal.refuse_from = messages;
-        const VT::Problem error = only_error(large.pool.load(terminal));
+        large.terminal.refuse_from = messages;
+        const VT::Problem error = only_error(large.pool.load(large.terminal));
         EXPECT_EQ(error.error, Error::link_refused) << messages;
         EXPECT_EQ(error.text, text) << messages;
-        EXPECT_EQ(terminal.sent.size(), messages);
+        EXPECT_EQ(large.terminal.sent.size(), messages);
         EXPECT_FALSE(large.pool.is_live());
 
         Fake_terminal back;
         EXPECT_TRUE(large.pool.load(back)) << messages;
-        EXPECT_EQ(back.sent.size(), 7u);
+        EXPECT_EQ(back.sent.size(), 5u);
     }
 }
 
@@ -282,6 +390,40 @@ TEST(PoolLoading, BringsThePresentValuesBack)
     container.set_hidden(false);
     EXPECT_EQ(back.sent, (std::vector<Bytes>{frame(0xA0, w(2), 1)}));
     EXPECT_TRUE(terminal.sent.empty());
+}
+
+TEST(PoolLoading, LetsGoOfTheLinkThatThePoolHadBefore)
+{
+    Screen screen;
+    Fake_terminal former;
+    ASSERT_TRUE(screen.pool.load(former));
+    former.take_sent();
+    Fake_terminal silent;
+    silent.answers.clear();
+    EXPECT_FALSE(screen.pool.load(silent));
+    EXPECT_FALSE(screen.pool.maintain());
+    EXPECT_EQ(former.take_sent(), std::vector<Bytes>());
+}
+
+TEST(PoolLoading, HasNoLinkUntilTheTerminalHasAccepted)
+{
+    Screen screen;
+    Fake_terminal terminal;
+    ASSERT_TRUE(screen.pool.load(terminal));
+    bool live_meanwhile = true;
+    ASSERT_TRUE(screen.pool.load(
+        terminal, [&](std::size_t, std::size_t) { live_meanwhile = screen.pool.is_live() || screen.pool.maintain(); }));
+    EXPECT_FALSE(live_meanwhile);
+}
+
+TEST(PoolLoading, TellsTheTerminalAfterwardsThatTheFirstObjectChangedMeanwhile)
+{
+    Screen screen;
+    Fake_terminal terminal;
+    ASSERT_TRUE(screen.pool.load(terminal, [&](std::size_t, std::size_t) { screen.working_set.selectable = 0; }));
+    ASSERT_EQ(terminal.sent.size(), 7u);
+    EXPECT_EQ(terminal.sent[5], join(0x11, w(0), 0, 0, 0, w(1), 0, 0, 0));
+    EXPECT_EQ(terminal.sent[6], end_of_pool);
 }
 
 TEST(PoolLoading, TellsTheTerminalAfterwardsWhatChangedMeanwhile)
