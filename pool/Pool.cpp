@@ -3,13 +3,13 @@
 #include "iso11783/Function.h"
 #include "pool/Colours.h"
 #include "pool/Dialogue.h"
+#include "pool/Entry.h"
 #include "pool/Kind.h"
 #include "pool/Names.h"
 #include "pool/Preparation.h"
 #include "pool/Record_writer.h"
 #include "pool/Scaling.h"
 #include "units/Units_man.h"
-#include "vt/Input_number_obj.h"
 #include "vt/Output_string_obj.h"
 
 #include <algorithm>
@@ -271,14 +271,11 @@ Terminal_message Pool::receive(const std::uint8_t* received, std::size_t size)
 void Pool::take_note(const Terminal_message& received)
 {
     if (const auto* const entered = std::get_if<VT_change_numeric_value_event>(&received)) {
-        VT_obj* const object = find_object(entered->object_id);
-        if (!object || object->get_type() != Iso::Object_type::input_number)
-            return;
-        auto* const input = dynamic_cast<Input_number_obj*>(object);
-        if (input && input->variable_reference == Iso::null_id) {
-            input->value = entered->value;
-            input->value.set_told(); // the terminal shows it already
-        }
+        note_entry(objects, *entered);
+    } else if (const auto* const text = std::get_if<VT_change_string_value_event>(&received)) {
+        note_entry(objects, *text);
+    } else if (const auto* const activation = std::get_if<Button_activation_event>(&received)) {
+        note_entry(objects, *activation);
     } else if (const auto* const information = std::get_if<VT_information>(&received)) {
         if (information->has_pixels())
             terminal_information = *information;

@@ -141,8 +141,8 @@ class VTUI_EXPORT Pool final : public vtui_pool
     bool maintain();
 
     /// Takes a message that the terminal sent while the pool is live, gives it to the component that it concerns, and
-    /// says what it is. Numbers that the operator entered are noted in their objects, refused commands and records
-    /// among the problems. What a component throws comes out here.
+    /// says what it is. What the operator changed by it is noted in the objects before: numbers, texts, latched
+    /// buttons. Refused commands and records are noted among the problems. What a component throws comes out here.
     Terminal_message receive(const std::uint8_t* message, std::size_t size);
 
     /// What went wrong since the last call, oldest first: commands and records that the terminal refused, a link that

@@ -1,0 +1,113 @@
+#include "pool/Entry.h"
+
+#include "vt/VT_obj.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+
+namespace VT {
+
+namespace {
+
+using Type = Iso::Object_type;
+
+/// Finds the attribute of type A that has a name.
+template <class A>
+class Finder final : public Attribute_visitor
+{
+  public:
+    explicit Finder(const char* wanted) : name(wanted) {}
+
+    using Attribute_visitor::attribute;
+    void attribute(const Attribute_info& info, A& candidate) override
+    {
+        if (std::strcmp(info.name, name) == 0)
+            found = &candidate;
+    }
+
+    A* found{nullptr};
+
+  private:
+    const char* name;
+};
+
+template <class A>
+A* find(VT_obj& object, const char* name)
+{
+    Finder<A> finder(name);
+    object.visit(finder);
+    return finder.found;
+}
+
+/// Where an input has its value: in its variable, which is of that type, or without one in itself. Null where that is
+/// not in the pool.
+VT_obj* holder(const Object_table& objects, VT_obj& input, Type variable_type)
+{
+    const auto* const reference = find<Attribute_object_id_spec>(input, "variable_reference");
+    if (!reference || *reference == Iso::null_id)
+        return &input;
+    VT_obj* const variable = objects.find(*reference);
+    return variable && variable->get_type() == variable_type ? variable : nullptr;
+}
+
+bool takes_numbers(Type type)
+{
+    return type == Type::input_boolean || type == Type::input_number || type == Type::input_list;
+}
+
+} // namespace
+
+void note_entry(const Object_table& objects, const VT_change_numeric_value_event& entered)
+{
+    VT_obj* const input = objects.find(entered.object_id);
+    if (!input || !takes_numbers(input->get_type()))
+        return;
+    VT_obj* const object = holder(objects, *input, Type::number_variable);
+    if (!object)
+        return;
+    if (auto* const number = find<Attribute_uint32>(*object, "value")) {
+        *number = entered.value;
+        number->set_told();
+    } else if (auto* const choice = find<Attribute_uint8>(*object, "value");
+               choice && entered.value <= std::numeric_limits<std::uint8_t>::max()) {
+        *choice = static_cast<std::uint8_t>(entered.value);
+        choice->set_told();
+    }
+}
+
+void note_entry(const Object_table& objects, const VT_change_string_value_event& entered)
+{
+    VT_obj* const input = objects.find(entered.object_id);
+    if (!input || input->get_type() != Type::input_string)
+        return;
+    VT_obj* const object = holder(objects, *input, Type::string_variable);
+    auto* const text = object ? find<Attribute_string>(*object, "value") : nullptr;
+    if (!text || !text->buffer)
+        return;
+    const std::size_t copied = entered.value.copy(text->buffer, text->item_count);
+    if (copied < text->item_count)
+        text->buffer[copied] = '\0';
+    text->set_told();
+}
+
+void note_entry(const Object_table& objects, const Button_activation_event& activation)
+{
+    constexpr unsigned latchable = 1;
+    constexpr unsigned latched = 2;
+    VT_obj* const button = objects.find(activation.object_id);
+    if (!button || button->get_type() != Type::button)
+        return;
+    auto* const options = find<Attribute_uint8>(*button, "options");
+    if (!options || !(*options & latchable))
+        return;
+    const bool other_change = options->changed(); // which the terminal has yet to be told
+    if (activation.activation_code == Iso::Activation::pressed)
+        *options = static_cast<std::uint8_t>(*options | latched);
+    else if (activation.activation_code == Iso::Activation::released)
+        *options = static_cast<std::uint8_t>(*options & ~latched);
+    if (!other_change)
+        options->set_told();
+}
+
+} // namespace VT
