@@ -77,6 +77,19 @@ void Terminal::take(const std::uint8_t* message, std::size_t count)
         return answer(Function::get_hardware,
                       {properties.boot_time, colours_256, by_finger, low(size), high(size), low(size), high(size)});
     }
+    case Function::get_versions: {
+        constexpr std::uint8_t labels = 0;
+        return answer(Function::versions, {labels});
+    }
+    case Function::store_version: {
+        constexpr std::uint8_t no_memory = 4; // that would outlast the connection
+        return answer(Function::store_version, {0xFF, 0xFF, 0xFF, 0xFF, no_memory});
+    }
+    case Function::load_version:
+    case Function::delete_version: {
+        constexpr std::uint8_t unknown_label = 2; // as every label is
+        return answer(static_cast<Function>(message[0]), {0xFF, 0xFF, 0xFF, 0xFF, unknown_label});
+    }
     case Function::working_set_maintenance:
         if (count >= 2 && (message[1] & 1) != 0)
             disconnect(); // the application starts anew, and so does its pool

@@ -34,6 +34,8 @@ namespace terminal {
 /// disables it, has it shown in other units, shows another mask or goes away. Whatever closes it but escape(), an
 /// application that still has that input is told that it is no longer selected.
 ///
+/// It stores no pools: it has no version labels, knows none, and has no memory to store one under.
+///
 /// A message that is too short for its function is ignored, as is an answer to one of the terminal's own events. A
 /// function that the terminal does not know is answered with Function::unsupported_function and its number. Macros are
 /// checked but not executed, and enter_text() does not apply the validation of an input's attributes.

@@ -175,8 +175,30 @@ TEST(Terminal, ForgetsThePoolOfAnApplicationThatStartsAnew)
 TEST(Terminal, SaysWhichFunctionsItDoesNotKnow)
 {
     Session session;
-    for (const int function : {0x10, 0x20, 0x92, 0xA2, 0xBF, 0xC1, 0xFD, 0xFE})
+    for (const int function : {0x10, 0x20, 0x92, 0xA2, 0xBF, 0xC1, 0xD3, 0xE0, 0xFD, 0xFE})
         EXPECT_EQ(session.ask(message(function)), message(0xFD, function)) << function;
+}
+
+TEST(Terminal, SaysThatItHasNoVersionsAndKnowsNoLabel)
+{
+    Session session;
+    const Bytes none = message(0xE0, 0);
+    const Bytes not_stored = message(0xD0, 0xFF, 0xFF, 0xFF, 0xFF, 4);
+    const Bytes not_loaded = message(0xD1, 0xFF, 0xFF, 0xFF, 0xFF, 2);
+    const Bytes not_deleted = message(0xD2, 0xFF, 0xFF, 0xFF, 0xFF, 2);
+    for (const bool has_pool : {false, true}) {
+        if (has_pool) {
+            ASSERT_EQ(session.load(small_pool()), accepted);
+        }
+        EXPECT_EQ(session.ask(message(0xDF)), none);
+        EXPECT_EQ(session.ask({0xDF}), none);
+        for (const char* label : {"SEEDER1", "A", "", "longer than labels are"}) {
+            EXPECT_EQ(session.ask(join(0xD0, label)), not_stored) << label;
+            EXPECT_EQ(session.ask(join(0xD1, label)), not_loaded) << label;
+            EXPECT_EQ(session.ask(join(0xD2, label)), not_deleted) << label;
+        }
+        EXPECT_EQ(session.terminal.pool().empty(), !has_pool);
+    }
 }
 
 TEST(Terminal, IgnoresAnswersToItsEventsAndMessagesThatAreTooShort)
