@@ -91,4 +91,34 @@ void concerned_event(benchmark::State& state)
 }
 BENCHMARK(concerned_event)->Arg(10)->Arg(1'000)->Arg(10'000);
 
+/// All components of a large pool are routed, and leave.
+void route_and_unroute(benchmark::State& state)
+{
+    Routed_pool screen(0);
+    std::deque<Routed_pool::Component> components(static_cast<std::size_t>(state.range(0)));
+    for (auto _ : state) {
+        for (Routed_pool::Component& component : components)
+            screen.pool.route(component);
+        for (Routed_pool::Component& component : components)
+            if (!screen.pool.unroute(component))
+                state.SkipWithError("a component was not routed");
+    }
+}
+BENCHMARK(route_and_unroute)->Arg(1'000)->Arg(60'000)->Unit(benchmark::kMillisecond);
+
+/// The same for one component that is led to the controls of a large pool.
+void route_controls_and_unroute(benchmark::State& state)
+{
+    Routed_pool screen(0);
+    std::deque<VT::Comp::Button_obj> controls(static_cast<std::size_t>(state.range(0)));
+    Routed_pool::Component component;
+    for (auto _ : state) {
+        for (const VT::Comp::Button_obj& control : controls)
+            screen.pool.route(component, control);
+        if (!screen.pool.unroute(component))
+            state.SkipWithError("the component was not routed");
+    }
+}
+BENCHMARK(route_controls_and_unroute)->Arg(1'000)->Arg(60'000)->Unit(benchmark::kMillisecond);
+
 } // namespace

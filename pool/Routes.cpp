@@ -31,32 +31,46 @@ bool lies_before(const void* a, const void* b) { return std::less<>()(a, b); }
 
 } // namespace
 
+bool Routes::By_component::comes_before(const Route& a, const Route& b)
+{
+    if (a.component != b.component)
+        return lies_before(a.component, b.component);
+    if (a.hand_over != b.hand_over)
+        return std::less<>()(a.hand_over, b.hand_over);
+    if (a.begin != b.begin)
+        return lies_before(a.begin, b.begin);
+    return a.whole < b.whole;
+}
+
 void Routes::add(const Route& route)
 {
-    const auto is_the_same = [&](const Route& r) {
-        return r.component == route.component && r.hand_over == route.hand_over && r.begin == route.begin &&
-               r.whole == route.whole;
-    };
-    if (std::any_of(routes.begin(), routes.end(), is_the_same))
+    if (in_use.find(route) != in_use.end())
         return;
-    const auto is_removed = [](const Route& r) { return !r.component; };
-    const auto free = std::find_if(routes.begin(), routes.end(), is_removed);
-    if (free != routes.end())
-        *free = route;
-    else
+    if (removed.empty()) {
         routes.push_back(route);
+        in_use.insert(static_cast<std::uint32_t>(routes.size() - 1));
+    } else {
+        routes[*removed.begin()] = route;
+        in_use.insert(removed.extract(removed.begin()));
+    }
     current = false;
 }
 
-bool Routes::remove(const void* component, Hand_over hand_over_)
+bool Routes::remove(void* component, Hand_over hand_over_)
 {
+    Route first{}; // of those that the component may have
+    first.component = component;
+    first.hand_over = hand_over_;
     bool any = false;
-    for (Route& route : routes)
-        if (route.component == component && route.hand_over == hand_over_) {
-            route.component = nullptr;
-            route.events = 0;
-            any = true;
-        }
+    for (auto next = in_use.lower_bound(first); next != in_use.end();) {
+        Route& route = routes[*next];
+        if (route.component != component || route.hand_over != hand_over_)
+            break;
+        removed.insert(in_use.extract(next++));
+        route.component = nullptr;
+        route.events = 0;
+        any = true;
+    }
     return any;
 }
 

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <type_traits>
 #include <utility>
 #include <variant>
@@ -32,6 +33,10 @@ using Event = std::variant<Soft_key_activation_event*, Button_activation_event*,
 class VTUI_EXPORT Routes
 {
   public:
+    Routes() = default;
+    Routes(const Routes&) = delete;
+    Routes& operator=(const Routes&) = delete;
+
     template <class Component>
     void add(Component& component)
     {
@@ -89,6 +94,25 @@ class VTUI_EXPORT Routes
         std::uint32_t events; ///< handled ones, a bit each
         Hand_over hand_over;
         std::uint32_t outer{nobody}; ///< the route whose memory contains this one's
+    };
+
+    /// Orders routes by their component, and that by its memory.
+    struct By_component
+    {
+        using is_transparent = void; ///< a route that has no place yet can be looked for
+
+        const std::vector<Route>* routes;
+
+        template <class A, class B>
+        bool operator()(const A& a, const B& b) const
+        {
+            return comes_before(at(a), at(b));
+        }
+
+      private:
+        static bool comes_before(const Route& a, const Route& b);
+        const Route& at(std::uint32_t place) const { return (*routes)[place]; }
+        static const Route& at(const Route& route) { return route; }
     };
 
     template <class Component, class E, class = void>
@@ -158,10 +182,12 @@ class VTUI_EXPORT Routes
              &hand_over<Component>});
     }
     void add(const Route& route);
-    bool remove(const void* component, Hand_over hand_over_);
+    bool remove(void* component, Hand_over hand_over_);
 
     std::vector<Route> routes;
-    std::vector<std::uint32_t> route_of; ///< by object id
+    std::set<std::uint32_t, By_component> in_use{By_component{&routes}}; ///< places of routes
+    std::set<std::uint32_t> removed;                                     ///< the others: no memory is given back
+    std::vector<std::uint32_t> route_of;                                 ///< by object id
     bool current{true};
 };
 
