@@ -6,6 +6,7 @@
 #include <ft2build.h>
 #include FT_FREETYPE_H
 #include FT_OUTLINE_H
+#include FT_SIZES_H
 
 #include <algorithm>
 #include <cstdlib>
@@ -14,10 +15,63 @@
 namespace terminal {
 namespace {
 
-constexpr double advance_per_size = 0.602; ///< of DejaVu Sans Mono: how wide a character is when the font is 1 high
+// DejaVu Sans Mono, in parts of the height it is asked for.
+constexpr double advance_part = 0.602;   ///< how wide a character is
+constexpr double capital_part = 0.729;   ///< how far capitals and digits reach above the baseline
+constexpr double descender_part = 0.208; ///< how far g, p, q and y reach below it
+
+/// How a font stands in a cell. All its letters share these numbers, whatever their style: that makes a line of them.
+struct Stand
+{
+    explicit Stand(Iso::Font_size cell)
+        // With an eighth of the cell left free, capitals keep most of their accents.
+        : width(rounded(cell.width / advance_part)), height(rounded(cell.height * 0.875)),
+          below(rounded(height * descender_part)), above(cell.height - below), capitals(rounded(height * capital_part))
+    {}
+
+    static int rounded(double pixels) { return static_cast<int>(pixels + 0.5); }
+
+    int width;  ///< that the font is asked for; in proportion to the height only by chance
+    int height; ///< likewise
+    int below;  ///< rows of the cell under the baseline
+    int above;
+    int capitals; ///< rows that a capital has
+};
 
 /// 0 to 31 and 127 to 159 are no characters in ISO 8859-1, 32 and 160 are spaces.
 bool printable(std::uint8_t character) { return (character > 32 && character < 127) || character > 160; }
+
+constexpr FT_Pos pixel = 64; ///< FreeType's units
+
+/// Makes a character fit that is too high or too deep for the cell. An accent that would reach out stands as many rows
+/// lower, whole, and the capital under it is pressed together; what hangs too deep is pressed from the baseline down.
+void press_into_cell(FT_Outline& outline, const Stand& stand)
+{
+    FT_BBox box;
+    FT_Outline_Get_CBox(&outline, &box);
+    const FT_Pos rows = (box.yMax + pixel - 1) / pixel;
+    const FT_Pos lower = std::max<FT_Pos>(0, rows - stand.above) * pixel;
+    const FT_Pos capital = stand.capitals * pixel;
+    const FT_Pos bottom = -stand.below * pixel;
+    for (int i = 0; i < outline.n_points; ++i) {
+        FT_Pos& y = outline.points[i].y;
+        if (y >= capital)
+            y -= lower;
+        else if (y > 0)
+            y = y * (capital - lower) / capital;
+        else if (box.yMin < bottom)
+            y = y * bottom / box.yMin;
+    }
+}
+
+/// Leans one to the right for every five up; the middle of a capital stays where it is.
+void slant(FT_Outline& outline, const Stand& stand)
+{
+    constexpr FT_Pos up = 5;
+    FT_Matrix shear{0x10000, 0x10000 / up, 0, 0x10000};
+    FT_Outline_Transform(&outline, &shear);
+    FT_Outline_Translate(&outline, -stand.capitals * pixel / 2 / up, 0);
+}
 
 } // namespace
 
@@ -37,42 +91,49 @@ class Glyphs::Face
     }
     ~Face()
     {
-        FT_Done_Face(face);
+        FT_Done_Face(face); // and its sizes
         FT_Done_FreeType(library);
     }
     Face(const Face&) = delete;
     Face& operator=(const Face&) = delete;
 
     /// Draws a character; the bitmap is valid until the next call. Returns false if the font cannot.
-    bool load(std::uint8_t character, unsigned width, unsigned height, bool italic)
+    bool load(std::uint8_t size, const Stand& stand, bool italic, std::uint8_t character)
     {
-        if (FT_Set_Pixel_Sizes(face, width, height) != 0 ||
-            FT_Load_Char(face, character, FT_LOAD_TARGET_MONO | FT_LOAD_NO_BITMAP) != 0)
+        if (!choose(sizes[size], stand) ||
+            FT_Load_Char(face, character, FT_LOAD_TARGET_MONO | FT_LOAD_NO_BITMAP) != 0 ||
+            face->glyph->format != FT_GLYPH_FORMAT_OUTLINE)
             return false;
-        if (italic) {
-            // One to the right for every five up; the middle of a capital letter stays where it is.
-            constexpr FT_Fixed slant = 0x10000 / 5;
-            FT_Matrix shear{0x10000, slant, 0, 0x10000};
-            FT_Outline_Transform(&face->glyph->outline, &shear);
-            FT_Outline_Translate(&face->glyph->outline, -static_cast<FT_Pos>(height) * 64 * 3 / 8 / 5, 0);
-        }
+        press_into_cell(face->glyph->outline, stand);
+        if (italic)
+            slant(face->glyph->outline, stand);
         return FT_Render_Glyph(face->glyph, FT_RENDER_MODE_MONO) == 0;
     }
 
     int left() const { return face->glyph->bitmap_left; }
     int top() const { return face->glyph->bitmap_top; }
-    int advance() const { return static_cast<int>((face->glyph->advance.x + 32) >> 6); }
+    int advance() const { return static_cast<int>((face->glyph->advance.x + pixel / 2) / pixel); }
     int width() const { return static_cast<int>(face->glyph->bitmap.width); }
     int height() const { return static_cast<int>(face->glyph->bitmap.rows); }
-    bool pixel(int x, int y) const
+    bool marks(int x, int y) const
     {
         const unsigned char* const row = face->glyph->bitmap.buffer + y * face->glyph->bitmap.pitch;
         return row[x / 8] >> (7 - x % 8) & 1;
     }
 
   private:
+    /// The first character of a size takes as long as ten others, so that a size is kept for the next.
+    bool choose(FT_Size& size, const Stand& stand)
+    {
+        if (size)
+            return FT_Activate_Size(size) == 0;
+        return FT_New_Size(face, &size) == 0 && FT_Activate_Size(size) == 0 &&
+               FT_Set_Pixel_Sizes(face, static_cast<FT_UInt>(stand.width), static_cast<FT_UInt>(stand.height)) == 0;
+    }
+
     FT_Library library = nullptr;
     FT_Face face = nullptr;
+    std::array<FT_Size, Iso::font_sizes.size()> sizes{};
 };
 
 Glyphs::Glyphs(const std::string& folder)
@@ -107,7 +168,7 @@ Glyphs::Place Glyphs::make(std::uint8_t size, bool bold, bool italic, std::uint8
         if (cell.height == small_glyph_height)
             add_small(cell, bold, italic, character);
         else
-            add_outline(cell, bold, italic, character);
+            add_outline(size, bold, italic, character);
     }
     return {static_cast<std::uint32_t>(first), static_cast<std::uint16_t>(runs.size() - first), true};
 }
@@ -124,22 +185,17 @@ void Glyphs::add_small(Iso::Font_size cell, bool bold, bool italic, std::uint8_t
     }
 }
 
-void Glyphs::add_outline(Iso::Font_size cell, bool bold, bool italic, std::uint8_t character)
+void Glyphs::add_outline(std::uint8_t size, bool bold, bool italic, std::uint8_t character)
 {
-    // As wide as the cell; capitals reach to its top, descenders to its bottom. A capital with an accent would reach
-    // out: it stands a little lower, and is made smaller until it fits.
-    const auto width = static_cast<unsigned>(cell.width / advance_per_size + 0.5);
-    const int baseline = cell.height * 3 / 4;
-    unsigned height = cell.height;
+    const Iso::Font_size cell = Iso::font_size(size);
+    const Stand stand(cell);
     Face& face = *faces[bold];
-    while (face.load(character, width, height, italic) && face.top() > baseline + cell.height / 12 &&
-           height > cell.height / 2u)
-        --height;
-
+    if (!face.load(size, stand, italic, character))
+        return;
     const int left = (cell.width - face.advance()) / 2 + face.left();
-    const int top = std::max(0, baseline - face.top());
-    for (int y = 0; y < face.height() && top + y < cell.height; ++y)
-        add_row(cell, left, top + y, face.width(), [&](int x) { return face.pixel(x, y); });
+    const int top = stand.above - face.top();
+    for (int y = 0; y < face.height(); ++y)
+        add_row(cell, left, top + y, face.width(), [&](int x) { return face.marks(x, y); });
 }
 
 template <typename Pixel>

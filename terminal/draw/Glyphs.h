@@ -61,7 +61,7 @@ class Glyphs
 
     Place make(std::uint8_t size, bool bold, bool italic, std::uint8_t character);
     void add_small(Iso::Font_size cell, bool bold, bool italic, std::uint8_t character);
-    void add_outline(Iso::Font_size cell, bool bold, bool italic, std::uint8_t character);
+    void add_outline(std::uint8_t size, bool bold, bool italic, std::uint8_t character);
     template <typename Pixel>
     void add_row(Iso::Font_size cell, int left, int y, int width, Pixel pixel);
 

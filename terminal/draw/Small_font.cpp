@@ -158,6 +158,8 @@ Rows with_accent(char base, Accent accent)
     Rows rows = small_glyph(static_cast<std::uint8_t>(base));
     if (base < 'a') // a capital makes room: seven rows become five
         rows = {0, 0, rows[0], rows[1], rows[3], rows[4], rows[6], 0};
+    if (base == 'O') // which would be a small one now
+        rows[2] = rows[6] = bits("#####");
     rows[0] = bits(accents[accent][0]);
     rows[1] = bits(accents[accent][1]);
     return rows;

@@ -7,6 +7,8 @@
 #include "terminal/draw/Small_font.h"
 #include "terminal/draw/Text.h"
 
+#include <map>
+#include <ostream>
 #include <stdexcept>
 
 namespace terminal {
@@ -20,6 +22,63 @@ std::string shown(std::uint8_t size, std::uint8_t character, bool is_bold = fals
         for (const Glyph_run& run : glyphs.glyph(size, is_bold, is_italic, character))
             view.fill({run.left, run.y, run.right, run.y + 1}, 1);
     });
+}
+
+/// Rows of a cell, from `top` up to, but without, `bottom`.
+struct Rows
+{
+    int top;
+    int bottom;
+};
+
+/// One of the sixty ways to draw a character.
+struct Kind
+{
+    std::uint8_t size;
+    bool is_bold = false;
+    bool is_italic = false;
+
+    Glyph glyph(Glyphs& glyphs, unsigned character) const
+    {
+        return glyphs.glyph(size, is_bold, is_italic, static_cast<std::uint8_t>(character));
+    }
+    Rows rows(Glyphs& glyphs, int character) const
+    {
+        const Glyph runs = glyph(glyphs, static_cast<std::uint8_t>(character));
+        return runs.count == 0 ? Rows{} : Rows{runs.begin()->y, (runs.end() - 1)->y + 1};
+    }
+    /// How many pieces lie above each other, with at least one empty row between them.
+    int parts(Glyphs& glyphs, int character) const
+    {
+        int pieces = 0;
+        int next_row = -1;
+        for (const Glyph_run& run : glyph(glyphs, static_cast<std::uint8_t>(character))) {
+            if (run.y > next_row)
+                ++pieces;
+            next_row = run.y + 1;
+        }
+        return pieces;
+    }
+    bool is_small() const { return Iso::font_size(size).height == small_glyph_height; }
+    /// How many rows a round letter reaches beyond a flat one, as is the custom of typefaces.
+    int overshoot() const { return (Iso::font_size(size).height + 40) / 80; }
+
+    friend std::ostream& operator<<(std::ostream& out, const Kind& kind)
+    {
+        return out << ", size " << +kind.size << (kind.is_bold ? " bold" : "") << (kind.is_italic ? " italic" : "");
+    }
+};
+
+std::vector<Kind> all_kinds()
+{
+    std::vector<Kind> kinds;
+    for (std::uint8_t size = 0; size < 15; ++size) {
+        for (const bool is_bold : {false, true}) {
+            for (const bool is_italic : {false, true})
+                kinds.push_back({size, is_bold, is_italic});
+        }
+    }
+    return kinds;
 }
 
 TEST(SmallFont, FillsItsCell)
@@ -56,6 +115,20 @@ TEST(SmallFont, MakesRoomForTheAccentOfACapital)
 #####.
 #...#.
 #...#.
+......
+)");
+}
+
+TEST(SmallFont, TellsAnAccentedCapitalOFromASmallOne)
+{
+    EXPECT_EQ(shown(0, 0xD6), R"(
+.#.#..
+......
+#####.
+#...#.
+#...#.
+#...#.
+#####.
 ......
 )");
 }
@@ -103,45 +176,109 @@ TEST(SmallFont, HasEveryCharacterOfIso8859_1AndNoOther)
 TEST(Glyphs, LieInsideTheirCell)
 {
     Glyphs glyphs;
-    for (std::uint8_t size = 0; size < 15; ++size) {
-        const Iso::Font_size cell = Iso::font_size(size);
-        for (unsigned style = 0; style < 4; ++style) {
-            for (unsigned c = 0; c < 256; ++c) {
-                for (const Glyph_run& run : glyphs.glyph(size, style & 1, style & 2, static_cast<std::uint8_t>(c))) {
-                    ASSERT_LT(run.left, run.right);
-                    ASSERT_LE(run.right, cell.width);
-                    ASSERT_LT(run.y, cell.height);
-                }
+    for (const Kind& kind : all_kinds()) {
+        const Iso::Font_size cell = Iso::font_size(kind.size);
+        for (unsigned c = 0; c < 256; ++c) {
+            for (const Glyph_run& run : kind.glyph(glyphs, c)) {
+                ASSERT_LT(run.left, run.right) << c << kind;
+                ASSERT_LE(run.right, cell.width) << c << kind;
+                ASSERT_LT(run.y, cell.height) << c << kind;
             }
         }
     }
 }
 
-TEST(Glyphs, AreNeverTwoAlikeInAnySize)
+TEST(Glyphs, AreNeverTwoAlikeInAnySizeAndStyle)
 {
     Glyphs glyphs;
-    for (std::uint8_t size = 0; size < 15; ++size) {
-        std::vector<std::string> seen;
-        for (unsigned c = 33; c < 127; ++c) {
+    for (const Kind& kind : all_kinds()) {
+        std::map<std::string, unsigned> seen;
+        for (unsigned c = 33; c < 256; ++c) {
+            const bool undefined = c >= 127 && c < 160;
+            const bool looks_like_another = c == 160 || c == 0xAD; // the space and the hyphen where no line breaks
+            if (undefined || looks_like_another)
+                continue;
             std::string bytes;
-            for (const Glyph_run& run : glyphs.glyph(size, false, false, static_cast<std::uint8_t>(c)))
+            for (const Glyph_run& run : kind.glyph(glyphs, c))
                 bytes += {static_cast<char>(run.y), static_cast<char>(run.left), static_cast<char>(run.right)};
-            EXPECT_FALSE(bytes.empty());
-            EXPECT_EQ(std::count(seen.begin(), seen.end(), bytes), 0) << "size " << +size << ", character " << c;
-            seen.push_back(bytes);
+            EXPECT_FALSE(bytes.empty()) << c << kind;
+            const auto [same, is_new] = seen.emplace(bytes, c);
+            EXPECT_TRUE(is_new) << c << " looks like " << same->second << kind;
         }
     }
 }
 
-TEST(Glyphs, ReachFromTheTopOfTheCellToItsBottom)
+constexpr std::string_view flat_on_top = "ABDEFHIJKLMNPRTUVWXYZ157";
+constexpr std::string_view round_on_top = "CGOQS023689";
+constexpr std::string_view flat_at_bottom = "ABDEFHIKLMNPRTVWXYZhiklmnrvwxz1247";
+constexpr std::string_view round_at_bottom = "CGJOSUabcdeostu035689";
+constexpr std::string_view accented = "\xC0\xC1\xC2\xC3\xC4\xC5\xC8\xC9\xCA\xCB\xCC\xCD\xCE\xCF\xD1\xD2\xD3\xD4\xD5\xD6"
+                                      "\xD9\xDA\xDB\xDC\xDD\xE0\xE1\xE2\xE3\xE4\xE5\xE8\xE9\xEA\xEB\xEC\xED\xEE\xEF\xF1"
+                                      "\xF2\xF3\xF4\xF5\xF6\xF9\xFA\xFB\xFC";
+
+TEST(Glyphs, StandOnOneBaselineInEverySizeAndStyle)
 {
     Glyphs glyphs;
-    for (std::uint8_t size = 2; size < 15; ++size) {
-        const Iso::Font_size cell = Iso::font_size(size);
-        const Glyph capital = glyphs.glyph(size, false, false, 'E');
-        EXPECT_LE(capital.begin()->y, cell.height / 16) << +size;
-        const Glyph descender = glyphs.glyph(size, false, false, 'p');
-        EXPECT_GE((descender.end() - 1)->y, cell.height - 1 - cell.height / 12) << +size;
+    for (const Kind& kind : all_kinds()) {
+        const int baseline = kind.rows(glyphs, 'E').bottom;
+        EXPECT_EQ(baseline, Kind{kind.size}.rows(glyphs, 'E').bottom) << "as when neither bold nor italic" << kind;
+        for (const char c : flat_at_bottom)
+            EXPECT_EQ(kind.rows(glyphs, c).bottom, baseline) << c << kind;
+        for (const std::string_view letters : {round_at_bottom, accented}) {
+            for (const char c : letters) {
+                EXPECT_GE(kind.rows(glyphs, c).bottom, baseline) << c << kind;
+                EXPECT_LE(kind.rows(glyphs, c).bottom, baseline + kind.overshoot()) << c << kind;
+            }
+        }
+        for (const char c : std::string_view("gjpqy"))
+            EXPECT_GT(kind.rows(glyphs, c).bottom, baseline + kind.overshoot()) << c << kind;
+    }
+}
+
+TEST(Glyphs, ShareTheHeightOfCapitalsAndOfSmallLettersInEverySizeAndStyle)
+{
+    Glyphs glyphs;
+    for (const Kind& kind : all_kinds()) {
+        const int capital = kind.rows(glyphs, 'E').top;
+        const int small = kind.rows(glyphs, 'x').top;
+        EXPECT_EQ(capital, Kind{kind.size}.rows(glyphs, 'E').top) << "as when neither bold nor italic" << kind;
+        EXPECT_EQ(small, Kind{kind.size}.rows(glyphs, 'x').top) << "as when neither bold nor italic" << kind;
+        for (const char c : flat_on_top)
+            EXPECT_EQ(kind.rows(glyphs, c).top, capital) << c << kind;
+        for (const char c : round_on_top)
+            EXPECT_NEAR(kind.rows(glyphs, c).top, capital, kind.overshoot()) << c << kind;
+        for (const char c : std::string_view("acegmnopqrsuvwyz"))
+            EXPECT_NEAR(kind.rows(glyphs, c).top, small, kind.overshoot()) << c << kind;
+        for (const char c : std::string_view("bdhkl")) {
+            EXPECT_LE(kind.rows(glyphs, c).top, capital) << c << kind;
+            EXPECT_EQ(kind.rows(glyphs, c).top, kind.rows(glyphs, 'b').top) << c << kind;
+        }
+    }
+}
+
+TEST(Glyphs, HaveTheirAccentsClearOfThem)
+{
+    Glyphs glyphs;
+    for (const Kind& kind : all_kinds()) {
+        if (kind.is_small())
+            continue; // eight rows have room for dots, but not for all accents
+        for (const char c : std::string_view("\xC0\xC1\xC2\xC4\xC8\xC9\xCA\xCB\xD2\xD3\xD4\xD6\xD9\xDA\xDB\xDC"))
+            EXPECT_EQ(kind.parts(glyphs, c), 2) << +static_cast<std::uint8_t>(c) << kind;
+    }
+}
+
+TEST(Glyphs, AreLegibleInEverySize)
+{
+    Glyphs glyphs;
+    for (std::uint8_t size = 0; size < 15; ++size) {
+        const Kind kind{size};
+        const int height = Iso::font_size(size).height;
+        const Rows capital = kind.rows(glyphs, 'E');
+        const Rows small = kind.rows(glyphs, 'x');
+        EXPECT_GE((capital.bottom - capital.top) * 8, height * 5) << kind;
+        EXPECT_GE((small.bottom - small.top) * 20, height * 9) << kind;
+        EXPECT_LE((height - kind.rows(glyphs, 'p').bottom) * 50, height) << "nothing is wasted" << kind;
+        EXPECT_LE(kind.rows(glyphs, 0xC5).top * 20, height) << "nothing is wasted" << kind;
     }
 }
 
@@ -158,7 +295,7 @@ TEST(Glyphs, TellWhichFontIsMissing)
 TEST(Glyphs, LookAsTheyDidInEverySizeAndStyle)
 {
     Glyphs glyphs;
-    const std::string_view sample = "AaBgRm0123456789%-.:() \xC4\xE9\xDF\xB0";
+    const std::string_view sample = "AaBdghijklpRm0123456789%-.:() \xC4\xE9\xDF\xB0";
     constexpr std::uint8_t styles[] = {0, bold, italic, bold | italic, underlined, crossed_out};
     for (std::uint8_t size = 0; size < 15; ++size) {
         const Iso::Font_size cell = Iso::font_size(size);
