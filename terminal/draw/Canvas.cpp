@@ -20,7 +20,8 @@ void View::fill(const Area& area, const Paint& paint) const
     const Area place = area.moved(origin.x, origin.y) & clip;
     if (place.empty())
         return;
-    spend(place.size());
+    constexpr int work_of_row = 2;
+    spend(place.size() + std::int64_t{work_of_row} * place.height());
     const auto count = static_cast<std::size_t>(place.width());
     for (int y = place.top; y < place.bottom; ++y) {
         std::uint8_t* const to = canvas->row(y) + place.left;

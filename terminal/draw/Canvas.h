@@ -14,8 +14,8 @@ class View;
 /// A picture of palette indices, one byte a pixel, rows without padding. It owns its pixels; drawing goes through
 /// views.
 ///
-/// A canvas counts the work that is done on it, so that a drawing that would take too long can be ended: one for each
-/// pixel written, and as much for each step that takes as long, such as to pass a run of a packed picture.
+/// A canvas counts the work that is done on it, so that a drawing that would take too long can be ended. A unit is some
+/// 3 ns on a desk, at worst: one is counted for each pixel written, and several for a step that takes longer.
 class Canvas
 {
   public:

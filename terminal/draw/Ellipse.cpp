@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 
 namespace terminal {
 namespace {
@@ -146,8 +147,13 @@ void draw_ellipse(const View& view, int width, int height, const Arc& arc, const
         return swept(d);
     };
 
-    const Outline outline(width, height, std::min(pen.width, 255));
     const Area visible = box.visible();
+    constexpr int work_of_ellipse = 64; // however small
+    constexpr int work_of_reach = 8;    // for each pixel of the pen
+    constexpr int work_of_inset = 4;    // in each row, of its own and of those that the pen reaches from it
+    box.spend(work_of_ellipse + work_of_reach * pen.width +
+              std::int64_t{work_of_inset} * visible.height() * (2 * pen.width + 2));
+    const Outline outline(width, height, std::min(pen.width, 255));
     if (fill && (whole || sweep != 0) && (arc.type != Ellipse_type::open)) {
         for (int y = visible.top; y < visible.bottom; ++y) {
             const int inset = outline.inset(y);
@@ -160,22 +166,26 @@ void draw_ellipse(const View& view, int width, int height, const Arc& arc, const
 
     if (pen.width <= 0)
         return;
-    constexpr int work_of_lengths = 2048;
-    constexpr int work_of_inset = 2;
-    constexpr int work_of_length = 8;
-    box.spend(work_of_lengths + std::int64_t{work_of_inset} * visible.height() * (2 * pen.width + 1));
-    const Arc_length lengths(a, b);
-    const double art_start = whole && arc.type == Ellipse_type::closed ? 0 : lengths.at(first_point);
+    std::optional<Arc_length> lengths;
+    double art_start = 0;
+    if (!pen.solid()) {
+        constexpr int work_of_lengths = 4096;
+        box.spend(work_of_lengths);
+        lengths.emplace(a, b);
+        if (arc.type != Ellipse_type::closed)
+            art_start = lengths->at(first_point);
+    }
     const auto drawn = [&](int x, int y) {
         const Direction d = from_centre(x, y);
         if (!whole && (sweep == 0 || !swept(d)))
             return false;
         if (pen.solid())
             return true;
+        constexpr int work_of_length = 8;
         box.spend(work_of_length);
-        double along = lengths.at(d) - art_start;
+        double along = lengths->at(d) - art_start;
         if (along < -tolerance)
-            along += lengths.whole();
+            along += lengths->whole();
         return pen.marks(static_cast<int>(std::max(along, 0.0)));
     };
     for (int y = visible.top; y < visible.bottom; ++y) {

@@ -176,6 +176,8 @@ Glyphs::Place Glyphs::make(std::uint8_t size, bool bold, bool italic, std::uint8
 void Glyphs::add_small(Iso::Font_size cell, bool bold, bool italic, std::uint8_t character)
 {
     const auto rows = small_glyph(character);
+    constexpr int work_of_small_glyph = 512;
+    spent += work_of_small_glyph;
     for (int y = 0; y < small_glyph_height; ++y) {
         const unsigned row = rows[static_cast<std::size_t>(y)] * 2u; // one pixel more to the right
         // Bold spreads to the right, but closes no gap one pixel wide: an M would be a blot.
@@ -188,6 +190,8 @@ void Glyphs::add_small(Iso::Font_size cell, bool bold, bool italic, std::uint8_t
 void Glyphs::add_outline(std::uint8_t size, bool bold, bool italic, std::uint8_t character)
 {
     const Iso::Font_size cell = Iso::font_size(size);
+    constexpr int work_of_outline = 4096; // and half as much for each pixel of the cell
+    spent += work_of_outline + cell.width * cell.height / 2;
     const Stand stand(cell);
     Face& face = *faces[bold];
     if (!face.load(size, stand, italic, character))

@@ -31,7 +31,8 @@ struct Glyph
 
 /// The characters of ISO 8859-1 in the fifteen font sizes, plain, bold and italic, without shades of grey. They come
 /// from DejaVu Sans Mono, hinted for exactly the cell's size, and below that from the small font, so that pictures are
-/// the same on every machine. Glyphs are made when they are first asked for, and kept.
+/// the same on every machine. Glyphs are made when they are first asked for, and kept: all there are take four
+/// megabytes.
 class Glyphs
 {
   public:
@@ -43,6 +44,10 @@ class Glyphs
 
     /// Where the fonts are looked for: what the environment variable VTUI_FONT_DIR names, or where Debian puts them.
     static std::string default_folder();
+
+    /// What making glyphs has cost, in the units of Canvas.
+    std::int64_t work() const { return spent; }
+    void forget_work() { spent = 0; }
 
     /// The pixels of a character inside its cell; `size` is a font size code below 15. Valid until the next call. A
     /// character that the standard leaves undefined is blank.
@@ -68,6 +73,7 @@ class Glyphs
     std::array<std::unique_ptr<Face>, 2> faces; ///< plain and bold
     std::array<std::unique_ptr<Table>, 15 * 4> tables;
     std::vector<Glyph_run> runs;
+    std::int64_t spent = 0;
 };
 
 } // namespace terminal

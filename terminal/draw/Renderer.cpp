@@ -20,7 +20,9 @@ using Iso::Object_type;
 
 constexpr int deepest = Nesting::max_depth; ///< a pool that nests deeper is refused, so this is never reached
 
-/// What an object costs to draw however small it is, and what a number costs to be made text, in units of work.
+/// What a child costs that is out of sight, an object however small it is, and a number to be made text, in units of
+/// work.
+constexpr int work_of_child = 4;
 constexpr int work_of_object = 40;
 constexpr int work_of_number = 256;
 
@@ -129,6 +131,7 @@ void Renderer::start(const Object_pool& objects, int width, int height)
     canvas.resize(width, height);
     canvas.forget_work();
     pattern.forget_work();
+    glyphs.forget_work();
 }
 
 QImage Renderer::finish()
@@ -171,6 +174,7 @@ void Renderer::paint_children(const View& view, const List<Child>& children)
     for (const Child child : children) {
         if (work() >= most_work())
             break;
+        view.spend(work_of_child);
         // A window that starts at the child's place; each object cuts it to its own size.
         constexpr int beyond = 1 << 20;
         const View place = view.inside({child.x, child.y, child.x + beyond, child.y + beyond});
@@ -182,10 +186,10 @@ void Renderer::paint_children(const View& view, const List<Child>& children)
 
 void Renderer::paint(const View& view, Object object)
 {
+    view.spend(work_of_object);
     object = shown(*pool, object);
     if (!object)
         return;
-    view.spend(work_of_object);
     switch (object.type()) {
     case Object_type::container:
         return paint_container(view, object);

@@ -21,7 +21,8 @@ namespace terminal {
 ///
 /// Objects that do not exist, null references and what an object does not support are left out of the picture. So are
 /// the objects that remain when the work of drawing gets out of hand, which it does only in a hostile pool: after as
-/// much as it takes to paint every pixel `times_painted` times, a tenth of a second at 480 × 480 pixels.
+/// much as it takes to paint every pixel `times_painted` times, a tenth of a second at 480 × 480 pixels. To make a
+/// glyph is work, too, and is done once: where glyphs are what was too much, the next picture gets further.
 class Renderer
 {
   public:
@@ -40,7 +41,7 @@ class Renderer
     QImage draw_key(const Object_pool& objects, Object key, int width, int height);
 
     /// What went into the last picture, in the units of Canvas, and after how much of it no further object is drawn.
-    std::int64_t work() const { return canvas.work() + pattern.work(); }
+    std::int64_t work() const { return canvas.work() + pattern.work() + glyphs.work(); }
     std::int64_t most_work() const;
 
   private:

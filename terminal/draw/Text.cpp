@@ -81,7 +81,7 @@ void draw_text(const View& view, Glyphs& glyphs, std::string_view text, const Fo
     if (field.sees_nothing() || cell.width == 0)
         return;
     text = text.substr(0, text.find('\0'));
-    constexpr int work_of_character = 8; // to find the line it stands in, twice
+    constexpr int work_of_character = 20; // to find the line it stands in, twice
     field.spend(work_of_character * static_cast<std::int64_t>(text.size()));
     const auto columns = static_cast<std::size_t>(std::max(1, width / cell.width));
 

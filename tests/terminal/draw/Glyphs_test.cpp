@@ -188,6 +188,18 @@ TEST(Glyphs, LieInsideTheirCell)
     }
 }
 
+TEST(Glyphs, AreKeptInTwoMegabytesAllTogether)
+{
+    Glyphs glyphs;
+    std::size_t runs = 0;
+    for (const Kind& kind : all_kinds()) {
+        for (unsigned c = 0; c < 256; ++c)
+            runs += kind.glyph(glyphs, c).count;
+    }
+    EXPECT_GT(runs, 300'000u);
+    EXPECT_LT(runs * sizeof(Glyph_run), 2'000'000u);
+}
+
 TEST(Glyphs, AreNeverTwoAlikeInAnySizeAndStyle)
 {
     Glyphs glyphs;
