@@ -34,8 +34,7 @@ void View::fill(const Area& area, const Paint& paint) const
 
 void View::copy_to(Canvas& copy) const
 {
-    if (copy.width() != canvas->width() || copy.height() != canvas->height())
-        copy.resize(canvas->width(), canvas->height());
+    copy.resize(canvas->width(), canvas->height());
     onto(copy).fill(visible(), Paint{0, canvas});
 }
 

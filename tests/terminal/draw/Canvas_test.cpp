@@ -121,5 +121,27 @@ TEST(View, FillsWithThePixelsOfAPattern)
 )");
 }
 
+TEST(Canvas, IsNeverSmallerThanNothing)
+{
+    const Canvas canvas(-3, -2);
+    EXPECT_EQ(canvas.width(), 0);
+    EXPECT_EQ(canvas.height(), 0);
+}
+
+TEST(View, CopiesWhatItSeesToACanvasThatTakesItsSize)
+{
+    Canvas from(4, 3);
+    from.view().fill(from.area(), 5);
+    for (const Area& size : {Area{0, 0, 4, 3}, Area{0, 0, 4, 2}, Area{0, 0, 3, 3}, Area{}}) {
+        Canvas copy(size.right, size.bottom);
+        from.view().copy_to(copy);
+        EXPECT_EQ(ascii(copy), "\n5555\n5555\n5555\n");
+    }
+    Canvas copy(4, 3);
+    copy.view().fill(copy.area(), 1);
+    from.view().inside({1, 1, 3, 3}).copy_to(copy);
+    EXPECT_EQ(ascii(copy), "\n####\n#55#\n#55#\n");
+}
+
 } // namespace
 } // namespace terminal

@@ -230,5 +230,78 @@ TEST(Tiling, LeavesTransparentPixelsAsTheyWere)
     EXPECT_EQ(drawn(4, 2, [&](const View& view) { tile_picture(view, some); }), "\n2.2.\n4545\n");
 }
 
+TEST(Picture, DrawsColourZeroAsAnyOther)
+{
+    EXPECT_EQ(drawn(3, 1,
+                    [](const View& view) {
+                        view.fill({0, 0, 3, 1}, 1);
+                        draw_picture(view, picture({0, 2, 0}, 3, 1, 8), 3);
+                    }),
+              "\n.2.\n");
+}
+
+TEST(Picture, WiderThanAStripIsDrawnWhole)
+{
+    constexpr int width = 2100;
+    Bytes bytes;
+    for (int x = 0; x < width; ++x)
+        bytes.push_back(static_cast<std::uint8_t>(x * 7 % 251));
+    Canvas canvas(width + 1, 1);
+    canvas.view().fill(canvas.area(), 255);
+    draw_picture(canvas.view(), picture(bytes, width, 1, 8), width);
+    for (int x = 0; x < width; ++x)
+        ASSERT_EQ(canvas.row(0)[x], bytes[static_cast<std::size_t>(x)]) << x;
+    EXPECT_EQ(canvas.row(0)[width], 255);
+}
+
+TEST(Picture, ShowsTheNearestPixelAboveAndLeftAtEveryScaleAndPlace)
+{
+    Bytes bytes;
+    for (std::uint8_t i = 0; i < 7 * 5; ++i)
+        bytes.push_back(i);
+    const Picture some = picture(bytes, 7, 5, 8);
+    for (int width = 1; width < 30; ++width) {
+        const int height = width * 5 / 7;
+        for (const Position corner : {Position{0, 0}, Position{-4, -3}, Position{5, 2}}) {
+            Canvas canvas(16, 16);
+            canvas.view().fill(canvas.area(), 255);
+            draw_picture(canvas.view().inside({corner.x, corner.y, 99, 99}), some, width);
+            for (int y = 0; y < 16; ++y) {
+                for (int x = 0; x < 16; ++x) {
+                    const Position place{x - corner.x, y - corner.y};
+                    const bool covered = place.x >= 0 && place.x < width && place.y >= 0 && place.y < height;
+                    const int expected = covered ? place.y * 7 / width * 7 + place.x * 7 / width : 255;
+                    ASSERT_EQ(canvas.row(y)[x], expected) << width << " wide: " << x << " " << y;
+                }
+            }
+        }
+    }
+}
+
+TEST(Tiling, ShowsThePixelOfEachPlaceWhereverItStarts)
+{
+    Bytes bytes;
+    for (std::uint8_t i = 0; i < 5 * 3; ++i)
+        bytes.push_back(i);
+    for (const Position corner : {Position{0, 0}, Position{-4, -1}, Position{-9, -8}, Position{2, 3}}) {
+        Canvas canvas(16, 16);
+        canvas.view().fill(canvas.area(), 255);
+        tile_picture(canvas.view().inside({corner.x, corner.y, 12, 13}), picture(bytes, 5, 3, 8));
+        for (int y = 0; y < 16; ++y) {
+            for (int x = 0; x < 16; ++x) {
+                const bool covered = x >= corner.x && y >= corner.y && x < 12 && y < 13;
+                ASSERT_EQ(canvas.row(y)[x], covered ? (y - corner.y) % 3 * 5 + (x - corner.x) % 5 : 255)
+                    << x << " " << y;
+            }
+        }
+    }
+}
+
+TEST(Tiling, WithoutASizeDrawsNothing)
+{
+    EXPECT_EQ(drawn(2, 1, [](const View& view) { tile_picture(view, picture(two_by_two, 0, 2, 8)); }), "\n..\n");
+    EXPECT_EQ(drawn(2, 1, [](const View& view) { tile_picture(view, picture(two_by_two, 2, 0, 8)); }), "\n..\n");
+}
+
 } // namespace
 } // namespace terminal

@@ -3,7 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <iterator>
+#include <random>
+#include <vector>
 
 namespace terminal {
 namespace {
@@ -153,6 +154,58 @@ TEST(Polygon, WithPointsFarOutsideIsCut)
 .....#22.
 .........
 )");
+}
+
+/// Whether an odd number of edges crosses the row of a pixel left of it.
+bool surrounded(const std::vector<Position>& points, int x, int y)
+{
+    bool inside = false;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const Position a = points[i];
+        const Position b = points[(i + 1) % points.size()];
+        if ((a.y <= y) == (b.y <= y))
+            continue;
+        const double crossing = a.x + double(b.x - a.x) * (y - a.y) / (b.y - a.y);
+        inside ^= crossing < x;
+    }
+    return inside;
+}
+
+void expect_filled(const std::vector<Position>& points, int width, int height)
+{
+    const auto polygon = [&](const Pen& with, const Paint* fill) {
+        Canvas canvas(width, height);
+        canvas.view().fill(canvas.area(), 0);
+        draw_polygon(canvas.view(), width, height, points.data(), points.size(), Polygon_type::complex, with, fill);
+        return canvas;
+    };
+    const Canvas filled = polygon({}, &colour_2);
+    const Canvas edges = polygon(pen(1), nullptr);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            ASSERT_EQ(filled.row(y)[x], edges.row(y)[x] != 0 || surrounded(points, x, y) ? 2 : 0) << x << " " << y;
+    }
+}
+
+TEST(Polygon, FillsItsEdgesAndWhatAnOddNumberOfThemSurrounds)
+{
+    std::mt19937 random(7);
+    const auto below = [&](unsigned end) { return static_cast<int>(random() % end); };
+    for (int round = 0; round < 600; ++round) {
+        std::vector<Position> points;
+        for (int n = 3 + below(5); n > 0; --n)
+            points.push_back({below(26) - 3, below(30) - 3});
+        expect_filled(points, 20, 24);
+        ASSERT_FALSE(HasFatalFailure()) << round;
+    }
+}
+
+TEST(Polygon, OfTheMostPointsIsFilledAsAnyOther)
+{
+    std::vector<Position> comb;
+    for (int i = 0; i < 255; ++i)
+        comb.push_back({i * 5, i % 2 == 0 ? 0 : 9});
+    expect_filled(comb, 1280, 10);
 }
 
 } // namespace

@@ -47,8 +47,8 @@ TEST(Work, OfAnEllipseIsThatOfItsRowsAndItsPenHoweverSmallItIs)
         return work_of([&](const View& view) { draw_ellipse(view, width, height, {}, pen, fill); });
     };
     constexpr int itself = 64;
-    constexpr int row = 8;  // to find where it begins and ends
-    constexpr int dot = 7;  // a fill of one pixel
+    constexpr int row = 8;    // to find where it begins and ends
+    constexpr int dot = 7;    // a fill of one pixel
     constexpr int no_dot = 4; // of none
     EXPECT_EQ(ellipse(1, 1, {}, nullptr), itself + row);
     EXPECT_EQ(ellipse(1, 1, {}, &paint), itself + row + dot);
@@ -131,6 +131,27 @@ TEST(Work, OfALineIsThatOfItsSteps)
     EXPECT_EQ(line(60, 9, {{1}, 0}), 0);
     EXPECT_EQ(line(60, 60, {{1}, 1}), 60 * (3 + 4 + 2 + 1));
     EXPECT_EQ(line(200, 200, {{1}, 1}), 100 * (3 + 4 + 2 + 1)) << "what is visible of it";
+}
+
+TEST(Work, OfAStrokeIsThatOfItsVisibleStepsInEveryDirection)
+{
+    constexpr Pen invisible{{1}, 3, 0};
+    const auto steps = [&](Position from, Position to) {
+        return work_of([&](const View& view) { stroke(view, invisible, from, to); }) / 3;
+    };
+    EXPECT_EQ(steps({-50, 10}, {150, 20}), 100);
+    EXPECT_EQ(steps({150, 10}, {-50, 20}), 100);
+    EXPECT_EQ(steps({10, -50}, {20, 150}), 100);
+    EXPECT_EQ(steps({10, 150}, {20, -50}), 100);
+    EXPECT_EQ(steps({10, 10}, {19, 15}), 10 + 2) << "with its spot";
+    EXPECT_EQ(steps({19, 10}, {10, 15}), 10 + 2);
+    EXPECT_EQ(steps({90, 10}, {150, 15}), 10);
+    EXPECT_EQ(steps({-50, 10}, {9, 15}), 12);
+    EXPECT_EQ(steps({9, 10}, {-50, 15}), 12);
+    EXPECT_EQ(steps({150, 10}, {90, 15}), 10);
+    EXPECT_EQ(steps({99, 10}, {99, 10}), 1) << "a dot at the edge";
+    EXPECT_EQ(steps({-2, 10}, {-2, 10}), 1);
+    EXPECT_EQ(steps({200, 10}, {300, 20}), 0);
 }
 
 TEST(Work, IncludesWhatLeavesNoPixel)
