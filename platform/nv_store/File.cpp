@@ -1,6 +1,7 @@
 #include "nv_store/File.h"
 
 #include "nv_store/Record.h"
+#include "nv_store/Replacement.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -15,23 +16,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int format_version = 1;
+constexpr int format_version = 2;        // the seal tells it, too; 1 had neither checksums nor seal
 constexpr long application = 0x6E767374; // "nvst", for the tool `file`
 
-constexpr auto busy_time = 1000; // milliseconds: the process before this one may still be dying
+// The tables of each format, word for word as SQLite keeps them.
+constexpr const char* tables_of_1 = "CREATE TABLE items(name TEXT NOT NULL PRIMARY KEY, type INTEGER NOT NULL, "
+                                    "value ANY) STRICT, WITHOUT ROWID";
+constexpr const char* items_table = "CREATE TABLE items(name TEXT NOT NULL PRIMARY KEY, type INTEGER NOT NULL, "
+                                    "value ANY, checksum INTEGER NOT NULL) STRICT, WITHOUT ROWID";
+constexpr const char* seal_table = "CREATE TABLE seal(sum INTEGER NOT NULL, checksum INTEGER NOT NULL) STRICT";
 
-// What SQLite puts beside a database.
-constexpr const char* companions[] = {"-journal", "-wal", "-shm"};
-
-Problem refused(const std::string& what, int error) { return {what, {error, std::generic_category()}}; }
-
-bool is_taken(const std::string& path)
-{
-    bool taken = fs::exists(fs::symlink_status(path));
-    for (const char* companion : companions)
-        taken |= fs::exists(fs::symlink_status(path + companion));
-    return taken;
-}
+constexpr const char* immovable = " is damaged and cannot be put aside";
 
 /// Why the system forbids this process an access; 0 if it does not.
 int forbids(const std::string& path, int mode)
@@ -39,21 +34,26 @@ int forbids(const std::string& path, int mode)
     return faccessat(AT_FDCWD, path.c_str(), mode, AT_EACCESS) == 0 ? 0 : errno;
 }
 
-/// Gives a file and what belongs to it another name, so that whoever repairs it finds all of it together.
-std::string move_aside(const std::string& path)
+Bits column(sqlite3_stmt* row, int i) { return to_bits(sqlite3_column_int64(row, i)); }
+
+/// False if the value is no number of the type's kind.
+bool take_row(sqlite3_stmt* row, Row& to)
 {
-    std::string free_path;
-    for (int i = 1; free_path.empty() || is_taken(free_path); ++i)
-        free_path = path + ".damaged-" + std::to_string(i);
-    // The database last: as long as it is there, a next start comes here again.
-    for (const char* companion : companions)
-        if (fs::exists(path + companion))
-            fs::rename(path + companion, free_path + companion);
-    fs::rename(path, free_path);
-    return free_path;
+    const auto* const name = reinterpret_cast<const char*>(sqlite3_column_text(row, 0));
+    to.name.assign(name, static_cast<std::size_t>(sqlite3_column_bytes(row, 0))); // which may have zeros in it
+    to.type = static_cast<Data_item::item_type_t>(sqlite3_column_int64(row, 1));
+    const int kind = sqlite3_column_type(row, 2);
+    if (!is_floating(to.type)) {
+        to.value = column(row, 2);
+        return kind == SQLITE_INTEGER;
+    }
+    // SQLite has no NaN and keeps a null instead.
+    const bool is_nan = kind == SQLITE_NULL;
+    to.value = to_bits(is_nan ? std::numeric_limits<double>::quiet_NaN() : sqlite3_column_double(row, 2));
+    return is_nan || kind == SQLITE_FLOAT || kind == SQLITE_INTEGER;
 }
 
-bool is_floating(Data_item::item_type_t type) { return type == Data_item::float32 || type == Data_item::float64; }
+Bits checksum_of_seal(Bits sum) { return Checksum().add(Bits{format_version}).add(sum).get(); }
 
 } // namespace
 
@@ -63,7 +63,7 @@ void File::Close::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(s
 std::string File::whole_path(const std::string& path)
 {
     if (path.empty())
-        refused(naming(path), ENOENT).raise();
+        Problem::refused(naming(path), ENOENT).raise();
     std::error_code error;
     const fs::path absolute = fs::absolute(path, error);
     if (error)
@@ -72,126 +72,169 @@ std::string File::whole_path(const std::string& path)
     return error ? absolute : resolved;
 }
 
-std::unique_ptr<File> File::open(const std::string& path, std::string& put_aside)
+std::unique_ptr<File> File::open(const std::string& path, Content& content)
 {
-    const auto attempt = [&] { return std::unique_ptr<File>(new File(path)); };
     try {
-        try {
-            return attempt();
-        } catch (const Damage&) {
-            put_aside = move_aside(path);
+        content.put_aside = finish_replacement(path);
+        std::unique_ptr<File> file(new File(path));
+        if (!file->examine(content).empty()) {
+            content.put_aside = file->give_way(content.rows);
+            file.reset(new File(path));
+            Content in_new_file;
+            if (const std::string damage = file->examine(in_new_file); !damage.empty())
+                throw Problem{naming(path) + " cannot be made: " + damage};
         }
-        return attempt();
-    } catch (const Damage& damage) {
-        Problem{naming(path) + " cannot be made: " + damage.what}.raise();
+        file->write({}); // what a process left that was killed; if the disk takes nothing now, the next one tries again
+        return file;
     } catch (const fs::filesystem_error& e) {
-        Problem{naming(path) + " is damaged and cannot be put aside", e.code()}.raise();
+        Problem{naming(path) + immovable, e.code()}.raise();
     } catch (const Problem& problem) {
         problem.raise();
     }
 }
 
-File::File(const std::string& path_) : path(path_)
+File::File(const std::string& path_) : path(path_), lock(path_)
 {
+    undo_replacement(path);
     sqlite3* opened = nullptr;
-    const int result = sqlite3_open_v2(path.c_str(), &opened,
-                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
+    const int result = sqlite3_open_v2(path.c_str(), &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX,
+                                       "unix-none"); // which locks nothing
     database.reset(opened);
     if (result != SQLITE_OK)
         fail(sqlite3_system_errno(opened));
-    if (sqlite3_db_readonly(opened, "main") == 1) // what SQLite makes of a file that it may not write
-        throw refused(naming(path) + " cannot be written", forbids(path, W_OK));
-    sqlite3_busy_timeout(opened, busy_time);
     // Closing tidies up, and to tidy up in a damaged file would destroy more of it.
     sqlite3_db_config(opened, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     // Set first of all, it also keeps the log's index in memory: no third file, and no shared memory on flash.
     execute("PRAGMA locking_mode=EXCLUSIVE");
-    check_or_make();
-    sqlite3_db_config(opened, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
-    prepare();
-    is_checked = true;
 }
 
-File::~File() = default;
-
-void File::check_or_make()
+File::~File()
 {
+    // A log of that name may be another file's by now.
+    if (database && lock.is_moved())
+        sqlite3_db_config(database.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+}
+
+/// Reads all of it. Returns what is wrong with it, empty if nothing is; then `content` has what is certain all the
+/// same.
+std::string File::examine(Content& content)
+{
+    std::string damage;
+    bool is_certain = false;
+    try {
+        damage = judge(content, is_certain);
+    } catch (const Damage& found) {
+        damage = found.what;
+    }
+    is_checked = damage.empty();
+    if (!is_checked && !is_certain) {
+        for (const Row& row : content.rows)
+            content.lost.push_back(row.name);
+        content.rows.clear();
+    }
+    return damage;
+}
+
+/// As examine(). `is_certain` are the rows if they are what was written last, and not something older.
+std::string File::judge(Content& content, bool& is_certain)
+{
+    const std::string verdict = ask("PRAGMA integrity_check(1)");
+    const std::string found = ask("SELECT group_concat(sql, ';') FROM (SELECT sql FROM sqlite_schema ORDER BY name)");
     const long owner = number("PRAGMA application_id");
     const long version = number("PRAGMA user_version");
-    if (owner == 0 && version == 0 && number("SELECT count(*) FROM sqlite_schema") == 0) {
-        make();
-        return;
+    const bool is_intact = verdict == "ok";
+
+    const std::string tables = std::string(items_table) + ';' + seal_table;
+    is_unsealed = found != tables;
+    if (is_intact && found.empty() && owner == 0 && version == 0) {
+        set_up();
+        return {};
     }
-    if (owner != application)
-        throw Problem{naming(path) + " is a database of another program"};
-    if (version > format_version)
+    Bits sealed = 0;
+    bool is_sealed = false;
+    Sums sums;
+    if (found == tables_of_1) {
+        read("SELECT name, type, value FROM items", false, content);
+        unsealed = content.rows;
+    } else if (found == tables) {
+        sums = read("SELECT name, type, value, checksum FROM items", true, content);
+        is_sealed = read_seal(sealed);
+        is_certain = is_sealed ? sealed == sums.computed || sealed == sums.stored : is_intact;
+    }
+    sum = sums.computed;
+
+    if (!is_intact)
+        return verdict;
+    // A newer version seals with its own number. Where the seal is ours, or none of its time, the number is damaged.
+    if (owner == application && version > format_version && !is_sealed && found != tables_of_1)
         throw Problem{naming(path) + " was written by a newer version: its format is " + std::to_string(version) +
                       ", known is " + std::to_string(format_version)};
-    const std::string verdict = ask("PRAGMA integrity_check(1)");
-    if (verdict != "ok")
-        throw Damage{verdict};
+    const bool is_written_by_us = owner == application && version == (is_unsealed ? 1 : format_version) &&
+                                  (is_unsealed ? found == tables_of_1 : is_sealed && sealed == sums.computed);
+    // A damaged head can forbid SQLite to write.
+    if (!is_written_by_us || !content.lost.empty() || sqlite3_db_readonly(database.get(), "main") == 1)
+        return "its content is not what a store writes";
+    return {};
 }
 
-/// Only the first step is not part of the transaction, and leaves an empty database.
-void File::make()
+File::Sums File::read(const char* sql, bool has_checksums, Content& content)
 {
-    if (ask("PRAGMA journal_mode=WAL") != "wal")
-        throw Problem{naming(path) + " " + failing + ": no write-ahead log"};
-    execute("BEGIN");
-    execute("CREATE TABLE items(name TEXT NOT NULL PRIMARY KEY, type INTEGER NOT NULL, value ANY) "
-            "STRICT, WITHOUT ROWID");
-    execute(("PRAGMA application_id=" + std::to_string(application)).c_str());
-    execute(("PRAGMA user_version=" + std::to_string(format_version)).c_str());
-    execute("COMMIT");
-}
-
-void File::prepare()
-{
-    // Each commit is on the disk before it returns, or flush() would promise too much.
-    execute("PRAGMA synchronous=FULL");
-    execute("PRAGMA wal_autocheckpoint=100"); // pages: a log of some 400 KiB, not of 4 MiB
-    begin = compile("BEGIN IMMEDIATE");
-    put = compile("INSERT OR REPLACE INTO items(name, type, value) VALUES(?, ?, ?)");
-    commit = compile("COMMIT");
-}
-
-void File::read(const std::function<void(const Row& row)>& take)
-{
-    try {
-        const Statement rows = compile("SELECT name, type, value FROM items");
-        while (step(rows)) {
-            sqlite3_stmt* const row = rows.get();
-            const auto type = static_cast<Data_item::item_type_t>(sqlite3_column_int64(row, 1));
-            const int kind = sqlite3_column_type(row, 2);
-            const auto* const name = reinterpret_cast<const char*>(sqlite3_column_text(row, 0));
-            const auto length = static_cast<std::size_t>(sqlite3_column_bytes(row, 0)); // which may have zeros in it
-            Row result{std::string(name, length), type, 0, kind == SQLITE_INTEGER};
-            if (!is_floating(type)) {
-                result.value = to_bits(sqlite3_column_int64(row, 2));
-            } else {
-                // SQLite has no NaN and keeps a null instead.
-                const bool is_nan = kind == SQLITE_NULL;
-                result.value =
-                    to_bits(is_nan ? std::numeric_limits<double>::quiet_NaN() : sqlite3_column_double(row, 2));
-                result.is_readable |= is_nan || kind == SQLITE_FLOAT;
-            }
-            take(result);
+    Sums sums;
+    const Statement rows = compile(sql);
+    while (step(rows)) {
+        Row row;
+        bool is_right = take_row(rows.get(), row) && is_of_type(row.type, row.value);
+        if (has_checksums) {
+            const Bits computed = checksum(row.name, row.type, row.value);
+            const Bits stored = column(rows.get(), 3);
+            sums.computed += computed;
+            sums.stored += stored;
+            is_right &= computed == stored;
         }
+        if (is_right)
+            content.rows.push_back(std::move(row));
+        else
+            content.lost.push_back(std::move(row.name));
+    }
+    return sums;
+}
+
+/// False if the seal itself is damaged.
+bool File::read_seal(Bits& sealed)
+{
+    const Statement row = compile("SELECT sum, checksum FROM seal");
+    if (!step(row))
+        return false;
+    sealed = column(row.get(), 0);
+    return column(row.get(), 1) == checksum_of_seal(sealed);
+}
+
+/// Lets a new file with these rows take its place. Its lock stays with the damaged one.
+std::string File::give_way(const std::vector<Row>& rows)
+{
+    database.reset();
+    try {
+        return replace(path, [&](const std::string& successor) {
+            File made(successor);
+            made.unsealed = rows;
+            made.is_unsealed = made.is_checked = true;
+            made.set_up();
+        });
     } catch (const Problem& problem) {
-        problem.raise();
+        throw Problem{naming(path) + immovable + (problem.system ? "" : ": " + problem.what), problem.system};
     }
 }
 
 Problem File::write(const std::vector<Change>& changes)
 {
     failing = "cannot be written";
-    if (changes.empty())
-        return {};
     try {
-        step(begin);
-        for (const Change& change : changes)
-            store(change);
-        step(commit);
+        if (lock.is_moved())
+            throw Problem{naming(path) + " was deleted or replaced while it was open"};
+        set_up();
+        if (!changes.empty())
+            put_changes(changes);
+        fold_log_in();
         return {};
     } catch (const Problem& problem) {
         if (!sqlite3_get_autocommit(database.get()))
@@ -200,16 +243,95 @@ Problem File::write(const std::vector<Change>& changes)
     }
 }
 
-void File::store(const Change& change)
+/// What has to be written before anything else, but not before all is read: a disk that takes nothing keeps nobody from
+/// reading.
+void File::set_up()
 {
-    const std::string& name = *change.record->name;
-    sqlite3_bind_text64(put.get(), 1, name.data(), name.size(), SQLITE_STATIC, SQLITE_UTF8);
-    sqlite3_bind_int64(put.get(), 2, change.type);
-    if (is_floating(change.type))
-        sqlite3_bind_double(put.get(), 3, from_bits<double>(change.value));
+    if (is_set_up)
+        return;
+    execute("PRAGMA journal_mode=WAL");
+    execute("PRAGMA synchronous=EXTRA"); // on the disk when it is said to be, also without a log
+    execute("PRAGMA wal_autocheckpoint=0");
+    begin = compile("BEGIN IMMEDIATE");
+    commit = compile("COMMIT");
+    if (is_unsealed)
+        write_anew();
     else
-        sqlite3_bind_int64(put.get(), 3, from_bits<sqlite3_int64>(change.value));
+        compile_puts();
+    fold_log_in();
+    sqlite3_db_config(database.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
+    is_set_up = true;
+}
+
+/// The first step of a new file, journal_mode, is not part of the transaction, and leaves an empty database.
+void File::write_anew()
+{
+    step(begin);
+    execute("DROP TABLE IF EXISTS items");
+    execute(items_table);
+    execute(seal_table);
+    compile_puts();
+    sum = 0;
+    for (const Row& row : unsealed) {
+        put_row(row.name, row.type, row.value);
+        sum += checksum(row.name, row.type, row.value);
+    }
+    put_seal(sum);
+    execute(("PRAGMA application_id=" + std::to_string(application)).c_str());
+    execute(("PRAGMA user_version=" + std::to_string(format_version)).c_str());
+    step(commit);
+    is_unsealed = false;
+    unsealed.clear();
+}
+
+void File::compile_puts()
+{
+    put = compile("INSERT OR REPLACE INTO items(name, type, value, checksum) VALUES(?, ?, ?, ?)");
+    seal = compile("INSERT OR REPLACE INTO seal(rowid, sum, checksum) VALUES(1, ?, ?)");
+}
+
+void File::put_changes(const std::vector<Change>& changes)
+{
+    Bits new_sum = sum;
+    step(begin);
+    for (const Change& change : changes) {
+        put_row(*change.record->name, change.type, change.value);
+        new_sum += checksum(*change.record->name, change.type, change.value) - change.record->checksum;
+    }
+    put_seal(new_sum);
+    step(commit);
+    sum = new_sum;
+    for (const Change& change : changes)
+        change.record->checksum = checksum(*change.record->name, change.type, change.value);
+}
+
+void File::put_row(const std::string& name, Data_item::item_type_t type, Bits value)
+{
+    sqlite3_bind_text64(put.get(), 1, name.data(), name.size(), SQLITE_STATIC, SQLITE_UTF8);
+    sqlite3_bind_int64(put.get(), 2, type);
+    if (is_floating(type))
+        sqlite3_bind_double(put.get(), 3, from_bits<double>(value));
+    else
+        sqlite3_bind_int64(put.get(), 3, from_bits<sqlite3_int64>(value));
+    sqlite3_bind_int64(put.get(), 4, from_bits<sqlite3_int64>(checksum(name, type, value)));
     step(put);
+}
+
+void File::put_seal(Bits sealed)
+{
+    sqlite3_bind_int64(seal.get(), 1, from_bits<sqlite3_int64>(sealed));
+    sqlite3_bind_int64(seal.get(), 2, from_bits<sqlite3_int64>(checksum_of_seal(sealed)));
+    step(seal);
+}
+
+/// Brings what the log has into the database. SQLite takes a damaged log for a shorter one and says nothing, so no
+/// transaction that is said to be on the disk is in the log alone. The next one overwrites the log from its beginning.
+void File::fold_log_in()
+{
+    errno = 0;
+    const int result = sqlite3_wal_checkpoint_v2(database.get(), "main", SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+    if (result != SQLITE_OK)
+        fail(errno);
 }
 
 void File::execute(const char* sql) { ask(sql); }
@@ -249,29 +371,30 @@ void File::fail(int error) const
 {
     const std::string what = naming(path) + " " + failing;
     const std::string message = sqlite3_errmsg(database.get());
-    switch (sqlite3_errcode(database.get()) & 0xFF) {
-    case SQLITE_BUSY:
-        throw Problem{naming(path) + " is open elsewhere"};
+    const int code = sqlite3_extended_errcode(database.get());
+    switch (code & 0xFF) {
     case SQLITE_FULL:
-        throw refused(what, ENOSPC);
+        throw Problem::refused(what, ENOSPC);
     case SQLITE_CANTOPEN:
     case SQLITE_READONLY:
         // After the first refusal SQLite tries other ways, and says what became of those.
         if (const int forbidden = forbids(fs::path(path).parent_path(), W_OK | X_OK))
-            throw refused(what, forbidden);
+            throw Problem::refused(what, forbidden);
         break;
     case SQLITE_IOERR:
+        if (!is_checked && code == SQLITE_IOERR_READ) // a part of the disk is gone
+            throw Damage{message};
         break;
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
-    case SQLITE_ERROR: // a table other than ours
+    case SQLITE_ERROR: // tables that SQLite does not understand
         if (!is_checked)
             throw Damage{message};
         [[fallthrough]];
     default:
         error = 0;
     }
-    throw error != 0 ? refused(what, error) : Problem{what + ": " + message};
+    throw error != 0 ? Problem::refused(what, error) : Problem{what + ": " + message};
 }
 
 } // namespace NV_store

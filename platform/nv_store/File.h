@@ -2,10 +2,10 @@
 #define NV_STORE_FILE_H
 
 #include "nv_store/Bits.h"
-#include "nv_store/Data_item.h"
+#include "nv_store/Lock.h"
 #include "nv_store/Problem.h"
+#include "nv_store/Row.h"
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,17 +17,16 @@ namespace NV_store {
 
 struct Record;
 
-/// A store's file while it is open: a database with one table of names, types and values. One thread at a time uses it.
-/// Nobody else can open it meanwhile, in this process or another.
+/// A store's file while it is open: a database with a table of items, each with a checksum, and the sum of all
+/// checksums, which seals it. One thread at a time uses it. Nobody else can open it meanwhile.
 class File
 {
   public:
-    struct Row
+    struct Content
     {
-        std::string name;
-        Data_item::item_type_t type;
-        Bits value;
-        bool is_readable; ///< the value is a number of the type's kind
+        std::vector<Row> rows;
+        std::vector<std::string> lost; ///< names under which a damaged file has something else than what was written
+        std::string put_aside;         ///< the new name of the damaged file
     };
     struct Change
     {
@@ -38,15 +37,11 @@ class File
 
     /// Absolute, and free of symbolic links: what belongs to the file lies beside it.
     static std::string whole_path(const std::string& path);
-    /// How messages begin.
-    static std::string naming(const std::string& path) { return "non-volatile store \"" + path + "\""; }
 
-    /// Opens or makes the file. Gives a damaged one another name, `put_aside`, and makes a new one. Throws what
-    /// Problem::raise() throws.
-    static std::unique_ptr<File> open(const std::string& path, std::string& put_aside);
+    /// Opens or makes the file and reads all of it. Gives a damaged one another name and makes a new one, with what is
+    /// certain of the damaged one. Throws what Problem::raise() throws.
+    static std::unique_ptr<File> open(const std::string& path, Content& content);
 
-    /// All of it. Throws as open() does.
-    void read(const std::function<void(const Row& row)>& take);
     /// All changes in one transaction. They are on the disk when it returns, or none is.
     Problem write(const std::vector<Change>& changes);
 
@@ -60,6 +55,12 @@ class File
     {
         std::string what;
     };
+    /// Of the checksums of all rows.
+    struct Sums
+    {
+        Bits computed{0};
+        Bits stored{0};
+    };
     struct Close
     {
         void operator()(sqlite3* database) const;
@@ -67,13 +68,22 @@ class File
     };
     using Statement = std::unique_ptr<sqlite3_stmt, Close>;
 
-    /// Throws a Problem or Damage.
+    /// Throws a Problem or Damage, as all that follows does.
     explicit File(const std::string& path);
 
-    void check_or_make();
-    void make();
-    void prepare();
-    void store(const Change& change);
+    std::string examine(Content& content);
+    std::string judge(Content& content, bool& is_certain);
+    Sums read(const char* sql, bool has_checksums, Content& content);
+    bool read_seal(Bits& sealed);
+
+    std::string give_way(const std::vector<Row>& rows);
+    void set_up();
+    void write_anew();
+    void compile_puts();
+    void put_changes(const std::vector<Change>& changes);
+    void put_row(const std::string& name, Data_item::item_type_t type, Bits value);
+    void put_seal(Bits sealed);
+    void fold_log_in();
 
     void execute(const char* sql);
     std::string ask(const char* sql);
@@ -84,11 +94,17 @@ class File
     [[noreturn]] void fail(int error) const;
 
     const std::string path;
+    Lock lock;
     const char* failing{"cannot be opened"};
     bool is_checked{false};
+    bool is_set_up{false};
+    bool is_unsealed{false};                  ///< the file is to be written anew, with checksums
+    std::vector<Row> unsealed;                ///< and these rows
+    Bits sum{0};                              ///< of the checksums of all rows
     std::unique_ptr<sqlite3, Close> database; // outlives the statements
     Statement begin;
     Statement put;
+    Statement seal;
     Statement commit;
 };
 

@@ -12,6 +12,4 @@ NV_item::~NV_item() { owner.release(record); }
 
 void NV_item::set_bits(Bits value) { owner.set({{*this, value}}); }
 
-void NV_item::refuse_value() const { owner.refuse(record, "has a stored value that its type cannot have"); }
-
 } // namespace NV_store

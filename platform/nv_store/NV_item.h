@@ -33,7 +33,6 @@ class VTUI_EXPORT NV_item
 
     Bits get_bits() const { return record.value.load(std::memory_order_acquire); }
     void set_bits(Bits value);
-    [[noreturn]] void refuse_value() const;
 
   private:
     friend class Store;

@@ -21,13 +21,10 @@ class VTUI_EXPORT NV_number : public NV_item
     using value_type = T;
 
     /// Throws std::runtime_error, which names item and file, if an item of this name is there already, or if what the
-    /// file has under it is no value of type T; the file stays as it is then.
+    /// file has under it is of another type; the file stays as it is then.
     NV_number(Store& store, const std::string& name, T initial = T())
         : NV_item(store, name, item_type, to_bits(initial))
-    {
-        if (!fits<T>(get_bits()))
-            refuse_value();
-    }
+    {}
 
     /// Never waits, and is never half of one value and half of another.
     T get() const { return from_bits<T>(get_bits()); }

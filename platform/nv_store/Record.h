@@ -19,9 +19,10 @@ struct Record
     const std::string* name{nullptr};
     Data_item::item_type_t type{};
     std::atomic<Bits> value{0};
-    bool is_in_use{false};  ///< an item has it
-    bool is_kept{false};    ///< the file has a value or is to have one; otherwise it is a default
-    bool is_readable{true}; ///< the file's value is one of its type
+    bool is_in_use{false}; ///< an item has it
+    bool is_kept{false};   ///< the file has a value or is to have one; otherwise it is a default
+    bool is_lost{false};   ///< or can be: a damaged file may have had a value
+    Bits checksum{0};      ///< the one in the file, used by the writer alone once it runs; 0 if there is none
     Link<Record> unsaved{*this};
     List<Virt_access> accesses;
 };

@@ -53,16 +53,18 @@ Store::Store(const std::string& path, std::chrono::milliseconds gathering_)
 {
     if (path == in_memory)
         return;
-    file = File::open(file_path, damaged_path);
-    file->read([this](const File::Row& row) {
-        const auto [entry, is_new] = records.try_emplace(row.name);
-        Record& record = entry->second;
-        record.name = &entry->first;
+    File::Content content;
+    file = File::open(file_path, content);
+    for (const Row& row : content.rows) {
+        Record& record = find_or_add(row.name);
         record.type = row.type;
         record.value = row.value;
         record.is_kept = true;
-        record.is_readable = row.is_readable;
-    });
+        record.checksum = checksum(row.name, row.type, row.value);
+    }
+    damaged_path = content.put_aside; // from now on what is not there yet counts as lost
+    for (const std::string& name : content.lost)
+        find_or_add(name);
     const Signals_blocked blocked;
     writer = std::thread(&Store::write_changes, this);
 }
@@ -78,16 +80,34 @@ Store::~Store()
     work.notify_one();
     writer.join();
     if (!unsaved.is_empty())
-        std::fprintf(stderr, "%s; its last changes are lost\n", problem.c_str());
+        std::fprintf(stderr, "%s; its last changes are lost\n", failure.text().c_str());
+}
+
+std::vector<std::string> Store::lost() const
+{
+    const std::lock_guard lock(mutex);
+    std::vector<std::string> names;
+    for (const auto& [name, record] : records)
+        if (record.is_lost)
+            names.push_back(name);
+    return names;
+}
+
+Record& Store::find_or_add(const std::string& name)
+{
+    const auto [entry, is_new] = records.try_emplace(name);
+    Record& record = entry->second;
+    if (is_new) {
+        record.name = &entry->first; // and never again: others read it without the lock
+        record.is_lost = !damaged_path.empty();
+    }
+    return record;
 }
 
 Record& Store::claim(const std::string& name, Data_item::item_type_t type, Bits initial)
 {
     const std::lock_guard lock(mutex);
-    const auto [entry, is_new] = records.try_emplace(name);
-    Record& record = entry->second;
-    if (is_new)
-        record.name = &entry->first; // and never again: others read it without the lock
+    Record& record = find_or_add(name);
     if (record.is_in_use)
         refuse(record, "is there twice");
     if (!record.is_kept) {
@@ -96,8 +116,6 @@ Record& Store::claim(const std::string& name, Data_item::item_type_t type, Bits 
     }
     if (record.type != type)
         refuse(record, std::string("is stored as ") + type_name(record.type) + ", not as " + type_name(type));
-    if (!record.is_readable)
-        refuse(record, "has a stored value that its type cannot have");
     record.is_in_use = true;
     return record;
 }
@@ -110,14 +128,14 @@ void Store::release(Record& record)
 
 void Store::refuse(const Record& record, const std::string& what) const
 {
-    throw std::runtime_error(File::naming(file_path) + ": the item \"" + *record.name + "\" " + what);
+    throw std::runtime_error(naming(file_path) + ": the item \"" + *record.name + "\" " + what);
 }
 
 void Store::set(const NV_item::Change* begin, const NV_item::Change* end)
 {
     for (const NV_item::Change* c = begin; c != end; ++c)
         if (&c->item.owner != this)
-            throw std::invalid_argument(File::naming(file_path) + " has no item \"" + c->item.name() +
+            throw std::invalid_argument(naming(file_path) + " has no item \"" + c->item.name() +
                                         "\": it is another store's");
     bool is_first = false;
     {
@@ -168,6 +186,8 @@ std::string Store::take_problem()
 void Store::write_changes()
 {
     pthread_setname_np(pthread_self(), "nv_store");
+    const sched_param ordinary{}; // even if the opener's thread has to be on time
+    pthread_setschedparam(pthread_self(), SCHED_OTHER, &ordinary);
     std::vector<File::Change> changes; // keeps its memory
     std::unique_lock lock(mutex);
     const auto is_urgent = [this] { return is_closing || asked > tried; };
@@ -188,7 +208,8 @@ void Store::write_changes()
         lock.lock();
 
         if (result) {
-            problem = result.text();
+            if (result.text() != failure.text())
+                problem = result.text();
             for (const File::Change& change : changes)
                 if (!change.record->unsaved.is_listed())
                     unsaved.append(change.record->unsaved);

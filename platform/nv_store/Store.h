@@ -14,6 +14,7 @@
 #include <mutex>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace NV_store {
 
@@ -35,10 +36,11 @@ class VTUI_EXPORT Store
     static constexpr std::chrono::milliseconds gathering_time{500};
     static constexpr std::chrono::seconds retry_time{2};
 
-    /// Opens the file; makes it if there is none, but not its folder. A damaged file is renamed, see put_aside(), and
-    /// replaced by an empty one: a machine must start. Throws std::system_error if the system refuses (no such folder,
-    /// no permission, disk full), std::runtime_error if somebody has the file open (after a second), if a newer version
-    /// wrote it, or if it is not a store; the text names the file, which stays as it is.
+    /// Opens the file; makes it if there is none, but not its folder. A file that is damaged, or is no store's, is
+    /// renamed, see put_aside(), and replaced by a new one with what is certain of it: a machine must start. Throws
+    /// std::system_error if the system refuses (no such folder, no permission, disk full), std::runtime_error if
+    /// somebody has the file open (after a second) or if a newer version wrote it; the text names the file, which stays
+    /// as it is.
     explicit Store(const std::string& path, std::chrono::milliseconds gathering = gathering_time);
     /// Writes what is left; if that fails, says on standard error that it is lost.
     ~Store();
@@ -47,9 +49,12 @@ class VTUI_EXPORT Store
 
     /// The file, with its whole path.
     const std::string& path() const { return file_path; }
-    /// The new name of the damaged file that was found here, for a message to the driver: all items begin with their
-    /// defaults. Empty if there was none.
+    /// The new name of the damaged file that was found here. Empty if there was none.
     const std::string& put_aside() const { return damaged_path; }
+    /// If a damaged file was found here: the names of the items that have begun with their defaults because of it, for
+    /// a message to the driver, in alphabetical order. These are the values in the file that are not certain, and of
+    /// the items that there have been so far all of which the file had nothing: perhaps it was never anything else.
+    std::vector<std::string> lost() const;
 
     /// Sets several items of this store together: after a crash the file has all of it or nothing of it. Other threads
     /// see the values one by one. From any thread, as NV_number::set(). Throws std::invalid_argument if one of them is
@@ -72,6 +77,7 @@ class VTUI_EXPORT Store
     friend class Virt_access;
 
     Record& claim(const std::string& name, Data_item::item_type_t type, Bits initial);
+    Record& find_or_add(const std::string& name);
     void release(Record& record);
     [[noreturn]] void refuse(const Record& record, const std::string& what) const;
 
@@ -83,7 +89,7 @@ class VTUI_EXPORT Store
     std::string damaged_path;
     std::unique_ptr<File> file; ///< null: in memory. Used by the writer alone once it runs
 
-    std::mutex mutex; ///< guards what follows; never held while the disk works
+    mutable std::mutex mutex; ///< guards what follows; never held while the disk works
     std::map<std::string, Record> records;
     List<Record> unsaved;
     std::condition_variable work; ///< for the writer
