@@ -249,8 +249,9 @@ void File::set_up()
 {
     if (is_set_up)
         return;
+    // On the disk when it is said to be; also the removal of the journal by which the next step begins a log.
+    execute("PRAGMA synchronous=EXTRA");
     execute("PRAGMA journal_mode=WAL");
-    execute("PRAGMA synchronous=EXTRA"); // on the disk when it is said to be, also without a log
     execute("PRAGMA wal_autocheckpoint=0");
     begin = compile("BEGIN IMMEDIATE");
     commit = compile("COMMIT");
