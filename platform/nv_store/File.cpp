@@ -93,9 +93,17 @@ std::unique_ptr<File> File::open(const std::string& path, Content& content)
     }
 }
 
-File::File(const std::string& path_) : path(path_), lock(path_)
+File::File(const std::string& path_) : path(path_), lock(path_) { undo_replacement(path); }
+
+File::~File()
 {
-    undo_replacement(path);
+    // A log of that name may be another file's by now.
+    if (database && lock.is_moved())
+        sqlite3_db_config(database.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+}
+
+void File::connect()
+{
     sqlite3* opened = nullptr;
     const int result = sqlite3_open_v2(path.c_str(), &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX,
                                        "unix-none"); // which locks nothing
@@ -108,13 +116,6 @@ File::File(const std::string& path_) : path(path_), lock(path_)
     execute("PRAGMA locking_mode=EXCLUSIVE");
 }
 
-File::~File()
-{
-    // A log of that name may be another file's by now.
-    if (database && lock.is_moved())
-        sqlite3_db_config(database.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
-}
-
 /// Reads all of it. Returns what is wrong with it, empty if nothing is; then `content` has what is certain all the
 /// same.
 std::string File::examine(Content& content)
@@ -122,6 +123,7 @@ std::string File::examine(Content& content)
     std::string damage;
     bool is_certain = false;
     try {
+        connect();
         damage = judge(content, is_certain);
     } catch (const Damage& found) {
         damage = found.what;
@@ -218,6 +220,7 @@ std::string File::give_way(const std::vector<Row>& rows)
             File made(successor);
             made.unsealed = rows;
             made.is_unsealed = made.is_checked = true;
+            made.connect();
             made.set_up();
         });
     } catch (const Problem& problem) {

@@ -68,9 +68,10 @@ class File
     };
     using Statement = std::unique_ptr<sqlite3_stmt, Close>;
 
-    /// Throws a Problem or Damage, as all that follows does.
+    /// Throws a Problem. All that follows throws a Problem or Damage, but examine() no Damage.
     explicit File(const std::string& path);
 
+    void connect();
     std::string examine(Content& content);
     std::string judge(Content& content, bool& is_certain);
     Sums read(const char* sql, bool has_checksums, Content& content);
