@@ -81,8 +81,8 @@ struct Items
 }
 
 /// Lets a process write for a while, which begins at once or with the first number that is flushed, and kills it.
-/// Returns the last number that was flushed, or `last`.
-long long write_and_kill(const std::string& path, bool from_first, std::chrono::microseconds life, long long last)
+/// Returns the last number that was flushed, or `told` if none was.
+long long write_and_kill(const std::string& path, bool from_first, std::chrono::microseconds life, long long told)
 {
     int ends[2];
     if (pipe(ends) != 0)
@@ -94,7 +94,7 @@ long long write_and_kill(const std::string& path, bool from_first, std::chrono::
     }
     close(ends[1]);
     if (from_first) {
-        EXPECT_EQ(read(ends[0], &last, sizeof last), static_cast<ssize_t>(sizeof last));
+        EXPECT_EQ(read(ends[0], &told, sizeof told), static_cast<ssize_t>(sizeof told));
     }
     std::this_thread::sleep_for(life);
     kill(child, SIGKILL);
@@ -102,9 +102,9 @@ long long write_and_kill(const std::string& path, bool from_first, std::chrono::
     waitpid(child, &status, 0);
     EXPECT_TRUE(WIFSIGNALED(status)) << "it ended by itself";
     for (long long n; read(ends[0], &n, sizeof n) == sizeof n;)
-        last = n;
+        told = n;
     close(ends[0]);
-    return last;
+    return told;
 }
 
 class NvCrash : public Folder
@@ -113,21 +113,23 @@ class NvCrash : public Folder
 TEST_F(NvCrash, LeavesWhatWasFlushedAndNothingHalf)
 {
     constexpr int kills = 300;
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE(seed);
+    constexpr unsigned seed = 1; // of the lives' lengths; what they reach in that time differs all the same
+    SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     std::uniform_int_distribution<int> life(0, 30'000); // microseconds
-    long long last = 0;
+    long long told = 0;                                 // that it is flushed
+    long long last = 0;                                 // that was found, flushed or not
     long long flushed = 0;
     int unasked = 0;
     for (int i = 0; i < kills; ++i) {
         if (i % 50 == 0) { // killed while it makes the file, too
             for (const char* end : {"", "-wal", "-journal"})
                 fs::remove(path + end);
-            last = 0;
+            told = last = 0;
         }
-        const long long told = write_and_kill(path, i % 2 == 1, std::chrono::microseconds(life(random)), last);
-        flushed += told - last;
+        const long long before = last;
+        told = write_and_kill(path, i % 2 == 1, std::chrono::microseconds(life(random)), told);
+        flushed += std::max(0LL, told - before);
 
         Store store(path); // checks the file's integrity, and puts a damaged one aside
         ASSERT_EQ(store.put_aside(), "") << "after kill " << i;
@@ -135,15 +137,17 @@ TEST_F(NvCrash, LeavesWhatWasFlushedAndNothingHalf)
         const long long found = items.get();
         ASSERT_NE(found, -1) << "torn after kill " << i;
         ASSERT_GE(found, told) << "lost after kill " << i;
+        ASSERT_GE(found, last) << "what was there once is gone after kill " << i;
         const long long alone = Long(store, "alone").get();
         ASSERT_GE(alone, told);
-        ASSERT_LE(alone, found + 1);
+        ASSERT_LE(alone, found);
         ASSERT_GE(alone, found - 1);
         unasked += found > told;
         last = found;
     }
     EXPECT_GE(flushed, kills / 2);
-    std::cout << kills << " kills, " << flushed << " numbers, " << unasked << " files newer than the last flush\n";
+    std::cout << kills << " kills with seed " << seed << ", " << flushed << " numbers, " << unasked
+              << " files newer than the last flush\n";
 }
 
 } // namespace

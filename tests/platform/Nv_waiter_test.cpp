@@ -3,10 +3,16 @@
 #include "tests/Virtual_slot.h"
 #include "tests/platform/Nv_folder.h"
 
+#include <atomic>
+#include <chrono>
 #include <cmath>
+#include <fcntl.h>
+#include <limits>
 #include <memory>
 #include <optional>
+#include <sys/eventfd.h>
 #include <thread>
+#include <unistd.h>
 
 using namespace nv;
 
@@ -298,6 +304,74 @@ TEST_F(NvWaiter, DeliversToAnAccessThatAsks)
     watcher.ask();
     EXPECT_EQ(waiter.deliver(), 1U);
     EXPECT_EQ(watcher.heard, Heard{200});
+}
+
+/// While it is full, whoever wakes the waiter stays where it is until there is room.
+class Full
+{
+  public:
+    explicit Full(const waiter_descriptor& waiter) : descriptor(waiter.descriptor())
+    {
+        fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) & ~O_NONBLOCK);
+        eventfd_write(descriptor, std::numeric_limits<eventfd_t>::max() - 1);
+    }
+    void let_go() const
+    {
+        eventfd_t count;
+        eventfd_read(descriptor, &count);
+    }
+
+  private:
+    int descriptor;
+};
+
+template <class Condition>
+bool comes_true(Condition condition)
+{
+    for (int i = 0; i < 5000 && !condition(); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    return condition();
+}
+
+TEST_F(NvWaiter, WakesNobodyBeforeTheValueIsThere)
+{
+    watcher.autoreg(&waiter, true);
+    const Full full(waiter);
+    std::thread setter([&] { rate.set(180); });
+    EXPECT_TRUE(comes_true([&] { return rate.get() == 180; })) << "it is still about to wake somebody";
+    full.let_go();
+    setter.join();
+}
+
+/// Whether a thread of this process sleeps.
+bool is_asleep(pid_t thread)
+{
+    const std::string state = content("/proc/self/task/" + std::to_string(thread) + "/stat");
+    return state.find(") S ") != std::string::npos;
+}
+
+TEST_F(NvWaiter, MissesNoChangeThatIsMadeWhileItRegisters)
+{
+    waiter_descriptor slow;
+    Watcher<Double> first(depth);
+    first.autoreg(&slow, true);
+    const Full full(slow);
+    watcher.look();
+    // It has set the one, holds the store, and will set the other.
+    std::thread setter([&] { store.set({depth.to(1), rate.to(180)}); });
+    ASSERT_TRUE(comes_true([&] { return depth.get() == 1; }));
+    std::atomic<pid_t> registering{0};
+    std::thread owner([&] {
+        registering = gettid();
+        watcher.autoreg(&waiter, true);
+    });
+    EXPECT_TRUE(comes_true([&] { return registering != 0 && is_asleep(registering); }));
+    EXPECT_EQ(rate.get(), 200);
+    full.let_go();
+    setter.join();
+    owner.join();
+    EXPECT_EQ(waiter.deliver(), 1U);
+    EXPECT_EQ(watcher.heard, Heard{180});
 }
 
 TEST(NvAccess, HasItsVirtualOperationsInThisOrder)
