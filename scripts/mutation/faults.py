@@ -425,11 +425,24 @@ class Parser:
                     self.add("axis", index, index + 1, [other])
         elif text in ("++", "--"):
             self.add("arithmetic", index, index + 1, ["--" if text == "++" else "++"])
-        elif text in BINARY and token.spaced and "string" not in (self.kind(index - 1), self.kind(index + 1)):
+        elif text in BINARY and token.spaced and not self.is_of_text(index):
             kind = next((kind for kind, signs in KINDS.items() if text in signs), "arithmetic")
             self.add(kind, index, index + 1, [BINARY[text]])
         elif text in ("!", "-", "~") and token.end == self.tokens[index + 1].begin and self.before_operand(index - 1):
             self.add("logic" if text == "!" else "arithmetic", index, index + 1, [""])
+
+    def is_of_text(self, index):
+        """Texts are only ever joined, and only ever put into a stream."""
+        if self.at(index) == "+":
+            return "string" in (self.kind(index - 1), self.kind(index + 1))
+        if self.at(index) not in ("<<", ">>"):
+            return False
+        begin, end = index, index
+        while begin > 0 and self.at(begin - 1) not in (";", "{", "}", "(", "["):
+            begin -= 1
+        while end < len(self.tokens) and self.at(end) not in (";", "{", "}", ")", "]"):
+            end = self.skip(end)
+        return any(token.kind == "string" or token.text == "endl" for token in self.tokens[begin:end])
 
     def names_declared(self, index):
         """A type stands before the word."""

@@ -4,11 +4,13 @@ import argparse
 import contextlib
 import dataclasses
 import fcntl
+import json
 import os
 import pathlib
 import queue
 import random
 import re
+import resource
 import shutil
 import signal
 import subprocess
@@ -24,30 +26,26 @@ ACCEPTED = "tests/mutants_accepted"
 WANTED = 97  # per cent
 
 
-@dataclasses.dataclass(frozen=True)
-class Test:
-    program: str  # the target, and its path in the build folder
-    left_out: str = ""  # a GoogleTest filter; say why beside it
+SLOW = 0.2  # seconds: a test that takes longer waits until the others have noticed nothing
 
-
-COMP = (Test("comp_test"), Test("comp_allocation_test"))
+COMP = ("comp_test", "comp_allocation_test")
 # A soak finds races by going on for long: against one fault in many, a second of it is as good.
 ENVIRONMENT = {"CDS_SOAK_SECONDS": "1", "NV_SOAK_SECONDS": "1"}
 
 # Its sources, and the programs that test them: first the room's own, then those of rooms that stand on it.
 ROOMS = {
-    "comp": (("lib/**/*",), COMP + (Test("pool_test"),)),
+    "comp": (("lib/**/*",), COMP + ("pool_test",)),
     "platform": (
         ("platform/vt/*", "platform/units/*", "platform/iso11783/*"),
-        (Test("platform_test"),) + COMP + (Test("pool_test"),),
+        ("platform_test",) + COMP + ("pool_test",),
     ),
-    "cds": (("platform/cds/*", "platform/threads/*"), (Test("cds_test"),) + COMP + (Test("nv_store_test"),)),
-    "nv_store": (("platform/nv_store/*",), (Test("nv_store_test"),) + COMP),
-    "util": (("util/*",), COMP + (Test("pool_test"),)),
-    "pool": (("pool/*",), (Test("pool_test"),)),
-    "terminal": (("terminal/*",), (Test("terminal_test"), Test("pool_test"))),
-    "draw": (("terminal/draw/*",), (Test("terminal_draw_test"), Test("gallery_test"))),
-    "web": (("terminal/web/*",), (Test("terminal_web_test"),)),
+    "cds": (("platform/cds/*", "platform/threads/*"), ("cds_test",) + COMP + ("nv_store_test",)),
+    "nv_store": (("platform/nv_store/*",), ("nv_store_test",) + COMP),
+    "util": (("util/*",), COMP + ("pool_test",)),
+    "pool": (("pool/*",), ("pool_test",)),
+    "terminal": (("terminal/*",), ("terminal_test", "pool_test")),
+    "draw": (("terminal/draw/*",), ("terminal_draw_test", "gallery_test")),
+    "web": (("terminal/web/*",), ("terminal_web_test",)),
 }
 
 
@@ -62,6 +60,10 @@ class Mutant:
     kind: str
     before: str  # the lines it is in, with single blanks
     after: str
+
+    def identity(self):
+        """What stays the same when lines move."""
+        return self.path, self.before, self.after
 
     def where(self):
         return f"{self.path}:{self.line}: {plain(self.old) or 'nothing'} → {plain(self.new) or 'nothing'}"
@@ -79,11 +81,15 @@ def source(path):
     return (TREE / path).read_text(encoding="utf-8")
 
 
+def room_paths(room):
+    paths = {path for pattern in ROOMS[room][0] for path in TREE.glob(pattern) if path.suffix in (".cpp", ".h")}
+    return sorted(str(path.relative_to(TREE)) for path in paths)
+
+
 def room_sites(room, only):
     """All the sites of a room, each as the list of mutants that it can become."""
     result = []
-    paths = {path for pattern in ROOMS[room][0] for path in TREE.glob(pattern) if path.suffix in (".cpp", ".h")}
-    for path in sorted(str(path.relative_to(TREE)) for path in paths):
+    for path in room_paths(room):
         text = source(path)
         header = TREE / path.replace(".cpp", ".h")
         words = re.findall(r"\w+", header.read_text(encoding="utf-8")) if header.exists() else ()
@@ -131,13 +137,13 @@ def accepted_blocks():
 class Worker:
     """A copy of the tree, built in a folder of its own: one mutant at a time is made in it, and taken back."""
 
-    def __init__(self, number, tests):
+    def __init__(self, number, programs):
         self.folder = WORK / str(number)
         self.copy = self.folder / "tree"
         self.build = self.folder / "build"
         self.kept = self.folder / "kept"
-        self.tests = tests
-        self.seconds = {}
+        self.programs = programs
+        self.runs = {}
         self.running = None
 
     # The copy, and what it becomes when it is built.
@@ -169,12 +175,11 @@ class Worker:
             f"-DCMAKE_CXX_COMPILER_LAUNCHER={shutil.which('ccache') or ''}",
         ]  # fmt: skip
         self.expect(*self.run(configure, 600), "cannot be configured")
-        targets = [test.program for test in self.tests]
-        self.expect(*self.run(["ninja", "-C", self.build, f"-j{jobs}", *targets], 7200), "does not build")
-        for test in self.tests:
-            begin = time.monotonic()
-            self.expect(*self.run_test(test, 600), f"fails {test.program} without any fault")
-            self.seconds[test.program] = time.monotonic() - begin
+        self.expect(*self.run(["ninja", "-C", self.build, f"-j{jobs}", *self.programs], 7200), "does not build")
+        for program in self.programs:
+            times = self.folder / "times.json"
+            self.expect(*self.run_test(program, 600, "*", times), f"fails {program} without any fault")
+            self.runs[program] = quick_and_slow(times)
         self.keep()
 
     def expect(self, status, output, what):
@@ -207,6 +212,8 @@ class Worker:
         path = self.copy / mutant.path
         times = path.stat()
         text = path.read_text(encoding="utf-8")
+        if text[mutant.begin : mutant.end] != mutant.old:
+            raise RuntimeError(f"{mutant.path} was edited meanwhile: start again")
         path.write_text(text[: mutant.begin] + mutant.new + text[mutant.end :], encoding="utf-8")
         try:
             yield
@@ -225,26 +232,28 @@ class Worker:
     def judge(self, mutant):
         """Who noticed it, or "" if nobody did, or None if it is no program."""
         with self.mutated(mutant):
-            for test in self.tests:
-                status, output = self.run(["ninja", "-C", self.build, "-j1", test.program], 1800)
+            for program in self.programs:
+                status, output = self.run(["ninja", "-C", self.build, "-j1", program], 1800)
                 if status != 0:
                     return "the compiler: static_assert" if "static assertion failed" in output else None
-                status, output = self.run_test(test, 3 * self.seconds[test.program] + 10)
-                if status != 0 or "[  PASSED  ]" not in output:
-                    return f"{test.program}: {how_it_ended(status, output)}"
+                for tests, seconds in self.runs[program]:
+                    status, output = self.run_test(program, 3 * seconds + 10, tests)
+                    if status != 0 or "[  PASSED  ]" not in output:
+                        return f"{program}: {how_it_ended(status, output)}"
         return ""
 
-    def run_test(self, test, seconds):
-        """With bounded memory and processor time, and a folder of its own for what it writes."""
+    def run_test(self, program, seconds, tests, times=None):
+        """With bounded memory, a folder of its own for what it writes, and less processor time than time: a loop without
+        end is stopped soon, and a test that a busy machine lets wait is not."""
         scratch = self.folder / "scratch"
         shutil.rmtree(scratch, ignore_errors=True)
         scratch.mkdir()
         command = [
-            "prlimit", "--core=0", f"--as={4 << 30}", f"--fsize={1 << 30}", f"--cpu={int(seconds)}",
-            self.build / test.program, "--gtest_brief=1", "--gtest_fail_fast", "--gtest_color=no",
+            "prlimit", "--core=0", f"--as={4 << 30}", f"--fsize={1 << 30}", f"--cpu={int(seconds) - 8}",
+            self.build / program, "--gtest_brief=1", "--gtest_fail_fast", "--gtest_color=no", f"--gtest_filter={tests}",
         ]  # fmt: skip
-        if test.left_out:
-            command.append(f"--gtest_filter=-{test.left_out}")
+        if times:
+            command.append(f"--gtest_output=json:{times}")
         return self.run(command, seconds, scratch, {"TMPDIR": str(scratch), **ENVIRONMENT})
 
     def run(self, command, seconds, folder=None, environment={}):
@@ -268,6 +277,7 @@ class Worker:
             status, output = OUT_OF_TIME, b""
         finally:
             self.stop()
+            self.running = None
         if stopping.is_set():
             raise Stopped
         return status, output.decode(errors="replace")
@@ -278,6 +288,21 @@ class Worker:
             with contextlib.suppress(ProcessLookupError):
                 os.killpg(process.pid, signal.SIGKILL)
             process.wait()
+
+
+def quick_and_slow(times):
+    """A GoogleTest filter for each, with the seconds that its tests took."""
+    quick, slow, names = 0.0, 0.0, []
+    for suite in json.loads(times.read_text(encoding="utf-8"))["testsuites"]:
+        for test in suite["testsuite"]:
+            seconds = float(test["time"].rstrip("s"))
+            if seconds > SLOW:
+                slow += seconds
+                names.append(f"{suite['name']}.{test['name']}")
+            else:
+                quick += seconds
+    listed = ":".join(names)
+    return [("-" + listed, quick), (listed, slow)] if names else [("*", quick)]
 
 
 OUT_OF_TIME = -1000
@@ -297,16 +322,22 @@ def how_it_ended(status, output):
     return signal.Signals(-status).name if status < 0 else f"ended with {status}"
 
 
+def processor_time():
+    """Of all the commands so far that have ended."""
+    used = resource.getrusage(resource.RUSAGE_CHILDREN)
+    return used.ru_utime + used.ru_stime
+
+
 class Report:
-    def __init__(self, room, mutants):
-        self.room, self.total = room, len(mutants)
+    def __init__(self, room, total, equivalent):
+        self.room, self.total = room, total
         self.lock = threading.Lock()
-        self.killed, self.equivalent, self.not_compiled, self.seconds = 0, 0, 0, 0.0
+        self.begin = processor_time()
+        self.killed, self.equivalent, self.not_compiled = 0, equivalent, 0
         self.survivors = []
 
     def add(self, mutant, judgement, seconds):
         with self.lock:
-            self.seconds += seconds
             if judgement is None:
                 self.not_compiled += 1
             elif judgement == "":
@@ -335,7 +366,8 @@ class Report:
         print(f"({self.equivalent} equivalent, {self.not_compiled} did not compile): {part:.1f} %")
         ran = self.done() - self.equivalent
         if ran:
-            print(f"{self.seconds / ran:.1f} s for a mutant; the survivors are in {path.relative_to(TREE)}")
+            print(f"{(processor_time() - self.begin) / ran:.1f} s of processor time for each that ran; ", end="")
+        print(f"the survivors are in {path.relative_to(TREE)}")
         return part >= WANTED
 
 
@@ -381,7 +413,7 @@ def arguments():
     parser.add_argument("count", metavar="N", nargs="?", type=int, default=60, help="how many faults (60)")
     parser.add_argument("--seed", default="1", help="draws another sample (1)")
     parser.add_argument("--list", action="store_true", help="show all the faults that could be made, and make none")
-    parser.add_argument("--only", metavar="FILE[:LINE]", help="only there; FILE is the end of a path")
+    parser.add_argument("--only", metavar="FILE[:LINE]", help="only there, and all of them; FILE is the end of a path")
     parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="how many at a time, each in its own copy")
     return parser.parse_args()
 
@@ -401,17 +433,14 @@ def main():
         return 0
 
     accepted = accepted_blocks()
-    all_of_them = {(mutant.path, mutant.before, mutant.after) for mutants in sites for mutant in mutants}
-    if not only:
-        for path, before, after in sorted(accepted):
-            of_room = any(pathlib.PurePath(path).match(pattern.replace("**/", "")) for pattern in ROOMS[wanted.room][0])
-            if of_room and (path, before, after) not in all_of_them:
-                print(f"stale in {ACCEPTED}: {path}: {before} → {after}")
-    mutants = sample(sites, wanted.count, wanted.seed)
-    report = Report(wanted.room, mutants)
-    to_run = [mutant for mutant in mutants if (mutant.path, mutant.before, mutant.after) not in accepted]
-    report.equivalent = len(mutants) - len(to_run)
-    print(f"{wanted.room}: {len(mutants)} of {len(sites)} sites, seed {wanted.seed}; {report.equivalent} are accepted")
+    possible = {mutant.identity() for mutants in sites for mutant in mutants}
+    for path, before, after in sorted(accepted - possible):
+        if not only and (path in room_paths(wanted.room) or not (TREE / path).exists()):
+            print(f"stale in {ACCEPTED}: {path}: {before} → {after}")
+    mutants = sum(sites, []) if only else sample(sites, wanted.count, wanted.seed)
+    to_run = [mutant for mutant in mutants if mutant.identity() not in accepted]
+    equivalent = len(mutants) - len(to_run)
+    print(f"{wanted.room}: {len(mutants)} of {len(sites)} sites, seed {wanted.seed}; {equivalent} are accepted as equivalent")
 
     WORK.mkdir(parents=True, exist_ok=True)
     with open(WORK / "lock", "w") as lock:
@@ -423,12 +452,22 @@ def main():
         for worker in workers:
             print(f"building without a fault in {worker.folder.relative_to(TREE)}", flush=True)
             worker.prepare(wanted.jobs)
-        for program, seconds in workers[0].seconds.items():
-            print(f"{program}: {seconds:.1f} s")
+        for program, runs in workers[0].runs.items():
+            print(f"{program}: " + ", then ".join(f"{seconds:.1f} s" for _, seconds in runs))
+        report = Report(wanted.room, len(mutants), equivalent)
         run_all(workers, to_run, report)
         enough = report.close()
     return 130 if stopping.is_set() else 0 if enough else 1
 
 
+def interrupt(*_):
+    raise KeyboardInterrupt
+
+
 if __name__ == "__main__":
-    sys.exit(main())
+    signal.signal(signal.SIGTERM, interrupt)
+    signal.signal(signal.SIGHUP, interrupt)
+    try:
+        sys.exit(main())
+    except KeyboardInterrupt:
+        sys.exit(130)
