@@ -175,7 +175,8 @@ class Worker:
             f"-DCMAKE_CXX_COMPILER_LAUNCHER={shutil.which('ccache') or ''}",
         ]  # fmt: skip
         self.expect(*self.run(configure, 600), "cannot be configured")
-        self.expect(*self.run(["ninja", "-C", self.build, f"-j{jobs}", *self.programs], 7200), "does not build")
+        for _ in range(2):  # what an interrupted run has left unfinished in ninja's notes shows at the second time
+            self.expect(*self.run(["ninja", "-C", self.build, f"-j{jobs}", *self.programs], 7200), "does not build")
         for program in self.programs:
             times = self.folder / "times.json"
             self.expect(*self.run_test(program, 600, "*", times), f"fails {program} without any fault")
@@ -410,10 +411,10 @@ def run_all(workers, mutants, report):
 def arguments():
     parser = argparse.ArgumentParser(prog="scripts/mutants", description=__doc__)
     parser.add_argument("room", metavar="ROOM", choices=ROOMS, help=", ".join(ROOMS))
-    parser.add_argument("count", metavar="N", nargs="?", type=int, default=60, help="how many faults (60)")
+    parser.add_argument("count", metavar="N", nargs="?", type=int, help="how many faults (60, with --only all)")
     parser.add_argument("--seed", default="1", help="draws another sample (1)")
     parser.add_argument("--list", action="store_true", help="show all the faults that could be made, and make none")
-    parser.add_argument("--only", metavar="FILE[:LINE]", help="only there, and all of them; FILE is the end of a path")
+    parser.add_argument("--only", metavar="FILE[:LINE]", help="only there; FILE is the end of a path, such as .cpp")
     parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="how many at a time, each in its own copy")
     return parser.parse_args()
 
@@ -437,7 +438,8 @@ def main():
     for path, before, after in sorted(accepted - possible):
         if not only and (path in room_paths(wanted.room) or not (TREE / path).exists()):
             print(f"stale in {ACCEPTED}: {path}: {before} → {after}")
-    mutants = sum(sites, []) if only else sample(sites, wanted.count, wanted.seed)
+    mutants = sum(sites, []) if only and not wanted.count else sample(sites, wanted.count or 60, wanted.seed)
+    mutants.sort(key=lambda mutant: mutant.path.endswith(".h"))  # at the end, as each takes long to build
     to_run = [mutant for mutant in mutants if mutant.identity() not in accepted]
     equivalent = len(mutants) - len(to_run)
     print(f"{wanted.room}: {len(mutants)} of {len(sites)} sites, seed {wanted.seed}; {equivalent} are accepted as equivalent")
