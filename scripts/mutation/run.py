@@ -128,8 +128,8 @@ def accepted_blocks():
         lines = [line.strip() for line in block.splitlines() if line.strip() and not line.startswith("#")]
         if not lines:
             continue
-        if len(lines) < 4 or lines[1][:2] != "- " or lines[2][:1] != "+":
-            sys.exit(f"mutants: {ACCEPTED}: this is not a path, a line with -, a line with + and a reason:\n{block}")
+        if len(lines) < 4 or [line[:2] for line in lines if line[:2] in ("- ", "+ ")] != ["- ", "+ "]:
+            sys.exit(f"mutants: {ACCEPTED}: this is not one path, one line with -, one with + and a reason:\n{block}")
         blocks.add((lines[0], plain(lines[1][1:]), plain(lines[2][1:])))
     return blocks
 
@@ -250,7 +250,7 @@ class Worker:
         shutil.rmtree(scratch, ignore_errors=True)
         scratch.mkdir()
         command = [
-            "prlimit", "--core=0", f"--as={4 << 30}", f"--fsize={1 << 30}", f"--cpu={int(seconds) - 8}",
+            "prlimit", "--core=0", f"--as={4 << 30}", f"--fsize={1 << 30}", f"--cpu={int(seconds) - 8}:{int(seconds) - 7}",
             self.build / program, "--gtest_brief=1", "--gtest_fail_fast", "--gtest_color=no", f"--gtest_filter={tests}",
         ]  # fmt: skip
         if times:
@@ -442,7 +442,7 @@ def main():
     mutants.sort(key=lambda mutant: mutant.path.endswith(".h"))  # at the end, as each takes long to build
     to_run = [mutant for mutant in mutants if mutant.identity() not in accepted]
     equivalent = len(mutants) - len(to_run)
-    print(f"{wanted.room}: {len(mutants)} of {len(sites)} sites, seed {wanted.seed}; {equivalent} are accepted as equivalent")
+    print(f"{wanted.room}: {len(mutants)} faults, seed {wanted.seed}, of {len(sites)} places; {equivalent} are accepted as equivalent")
 
     WORK.mkdir(parents=True, exist_ok=True)
     with open(WORK / "lock", "w") as lock:
@@ -450,12 +450,12 @@ def main():
             fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
         except BlockingIOError:
             sys.exit("mutants: it is running in this tree already")
-        workers = [Worker(number + 1, ROOMS[wanted.room][1]) for number in range(max(1, min(wanted.jobs, len(to_run))))]
+        workers = [Worker(number + 1, ROOMS[wanted.room][1]) for number in range(min(wanted.jobs, len(to_run)))]
         for worker in workers:
             print(f"building without a fault in {worker.folder.relative_to(TREE)}", flush=True)
             worker.prepare(wanted.jobs)
-        for program, runs in workers[0].runs.items():
-            print(f"{program}: " + ", then ".join(f"{seconds:.1f} s" for _, seconds in runs))
+            for program, runs in worker.runs.items():
+                print(f"    {program}: " + ", then ".join(f"{seconds:.1f} s" for _, seconds in runs))
         report = Report(wanted.room, len(mutants), equivalent)
         run_all(workers, to_run, report)
         enough = report.close()
