@@ -31,11 +31,11 @@ struct Stand
 
     static int rounded(double pixels) { return static_cast<int>(pixels + 0.5); }
 
-    int width;  ///< that the font is asked for; in proportion to the height only by chance
-    int height; ///< likewise
-    int below;  ///< rows of the cell under the baseline
-    int above;
-    int capitals; ///< rows that a capital has
+    int width;    ///< what the font is asked for, not in proportion to
+    int height;   ///< this
+    int below;    ///< rows of the cell that are below the baseline
+    int above;    ///< and above it
+    int capitals; ///< rows of a capital
 };
 
 /// 0 to 31 and 127 to 159 are no characters in ISO 8859-1, 32 and 160 are spaces.

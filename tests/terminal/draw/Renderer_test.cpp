@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace terminal {
 namespace {
 
@@ -397,6 +399,38 @@ TEST_F(Drawing, SurvivesReferencesThatLeadNowhere)
     const Id string = builder.string({2, 2, 997, 4}, "I", 996);
     EXPECT_EQ(mask({{rectangle}, {string}, {995}, {builder.pointer(994)}}, 2), "\n44\n44\n");
     EXPECT_EQ(ascii(renderer.draw_mask(pool, Object(), 2)), "\n..\n..\n");
+}
+
+TEST_F(Drawing, DrawsPicturesOfEveryFormat)
+{
+    const Id one_bit = builder.picture(3, 3, 1, 0, 0, 0, {0b10100000});
+    const Id four_bits = builder.picture(3, 3, 1, 1, 0, 0, {0x23, 0x40});
+    const Id eight_bits = builder.picture(3, 3, 1, 2, 0, 0, {5, 6, 7});
+    EXPECT_EQ(mask({{one_bit, 0, 0}, {four_bits, 0, 1}, {eight_bits, 0, 2}}, 3), "\n#.#\n234\n567\n");
+}
+
+TEST_F(Drawing, DrawsAPicturesTransparentColourUnlessItsOptionsSaySo)
+{
+    const Id below = builder.rectangle(3, 2, none, fill_3);
+    const Id opaque = builder.picture(3, 3, 1, 2, 0, 6, {5, 6, 7});
+    const Id transparent = builder.picture(3, 3, 1, 2, 1, 6, {5, 6, 7});
+    EXPECT_EQ(mask({{below}, {opaque, 0, 0}, {transparent, 0, 1}}, 3), "\n567\n537\n...\n");
+}
+
+TEST_F(Drawing, EndsWhereObjectsGoRound)
+{
+    // A terminal refuses such a pool; the renderer does not rely on it.
+    const Id itself = static_cast<Id>(dot + 1);
+    ASSERT_EQ(builder.container(200, 1, {{dot}, {itself, 1, 0}}), itself);
+    const std::string picture = mask({{itself}}, 100).substr(1, 100);
+    const auto dots = std::count(picture.begin(), picture.end(), '#');
+    EXPECT_GE(dots, 62);
+    EXPECT_LE(dots, 64);
+    EXPECT_EQ(mask({{itself}}, 100).substr(1, 100), picture) << "and the next one is drawn as deep";
+
+    const Id list = static_cast<Id>(itself + 3); // after two masks
+    ASSERT_EQ(builder.input_list(9, 9, 0, {list}), list);
+    EXPECT_EQ(mask({{list}, {dot}}, 2), "\n#.\n..\n");
 }
 
 } // namespace

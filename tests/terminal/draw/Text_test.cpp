@@ -207,5 +207,55 @@ TEST(Text, OfTheGreatestLengthIsDrawnOnlyWhereVisible)
         "\n#...\n#...\n");
 }
 
+TEST(Text, MakesOnlyTheGlyphsThatAreVisible)
+{
+    const auto made = [](const Area& window) {
+        Glyphs glyphs;
+        drawn(window.width(), window.height(), [&](const View& view) {
+            draw_text(view.inside({-window.left, -window.top, 99, 99}), glyphs, "abcdefgh\nijklmnop", {1, 0, 0}, 48, 16,
+                      0, {});
+        });
+        constexpr int work_of_one = 512;
+        return glyphs.work() / work_of_one;
+    };
+    EXPECT_EQ(made({0, 0, 48, 16}), 16);
+    EXPECT_EQ(made({0, 0, 48, 8}), 8);
+    EXPECT_EQ(made({0, 8, 48, 16}), 8);
+    EXPECT_EQ(made({0, 7, 48, 9}), 16);
+    EXPECT_EQ(made({6, 0, 18, 8}), 2);
+    EXPECT_EQ(made({5, 0, 19, 8}), 4);
+    EXPECT_EQ(made({42, 0, 60, 8}), 1);
+    EXPECT_EQ(made({48, 0, 60, 8}), 0);
+}
+
+TEST(Text, HasThickerRulesInLargerSizes)
+{
+    const auto rules = [](std::uint8_t size) {
+        const std::string picture = "\n" + text("\xA0", 1, 192, 0, {1, size, underlined | crossed_out});
+        std::vector<Position> found; // from which row on, and how many
+        for (int y = 0; y < 192; ++y) {
+            const auto row = [&](int n) { return picture[2 + 2 * static_cast<std::size_t>(n)] == '#'; };
+            if (row(y) && (y == 0 || !row(y - 1)))
+                found.push_back({y, 0});
+            if (row(y))
+                ++found.back().y;
+        }
+        return found;
+    };
+    const auto expect_rules = [&](std::uint8_t size, Position crossing, Position under) {
+        const std::vector<Position> found = rules(size);
+        ASSERT_EQ(found.size(), 2u) << +size;
+        EXPECT_EQ(found[0].x, crossing.x) << +size;
+        EXPECT_EQ(found[0].y, crossing.y) << +size;
+        EXPECT_EQ(found[1].x, under.x) << +size;
+        EXPECT_EQ(found[1].y, under.y) << +size;
+    };
+    expect_rules(2, {6, 1}, {11, 1});
+    expect_rules(5, {12, 1}, {23, 1});
+    expect_rules(6, {15, 2}, {30, 2});
+    expect_rules(8, {23, 3}, {45, 3});
+    expect_rules(14, {90, 12}, {180, 12});
+}
+
 } // namespace
 } // namespace terminal
