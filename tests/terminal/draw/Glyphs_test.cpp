@@ -7,6 +7,7 @@
 #include "terminal/draw/Small_font.h"
 #include "terminal/draw/Text.h"
 
+#include <algorithm>
 #include <map>
 #include <ostream>
 #include <stdexcept>
@@ -131,6 +132,30 @@ TEST(SmallFont, TellsAnAccentedCapitalOFromASmallOne)
 #####.
 ......
 )");
+}
+
+TEST(SmallFont, PutsEachAccentOnItsLetter)
+{
+    const auto expect_accent = [](std::uint8_t upper, std::uint8_t lower, std::string_view accented,
+                                  std::string_view letters) {
+        for (std::size_t i = 0; i < accented.size(); ++i) {
+            const auto rows = small_glyph(static_cast<std::uint8_t>(accented[i]));
+            const auto plain = small_glyph(static_cast<std::uint8_t>(letters[i]));
+            EXPECT_EQ(rows[0], upper) << letters[i];
+            EXPECT_EQ(rows[1], lower) << letters[i];
+            const bool is_small = letters[i] >= 'a';
+            const bool has_other_corners = letters[i] == 'O';
+            const bool same = is_small ? std::equal(rows.begin() + 2, rows.end(), plain.begin() + 2)
+                                       : rows[2] == plain[0] && rows[6] == plain[6] && rows[7] == 0;
+            EXPECT_TRUE(same || has_other_corners) << letters[i];
+        }
+    };
+    expect_accent(0b01000, 0b00100, "\xC0\xC8\xCC\xD2\xD9\xE0\xE8\xEC\xF2\xF9", "AEIOUaeiou");
+    expect_accent(0b00010, 0b00100, "\xC1\xC9\xCD\xD3\xDA\xDD\xE1\xE9\xED\xF3\xFA\xFD", "AEIOUYaeiouy");
+    expect_accent(0b00100, 0b01010, "\xC2\xCA\xCE\xD4\xDB\xE2\xEA\xEE\xF4\xFB", "AEIOUaeiou");
+    expect_accent(0b01001, 0b10110, "\xC3\xD1\xD5\xE3\xF1\xF5", "ANOano");
+    expect_accent(0b01010, 0b00000, "\xC4\xCB\xCF\xD6\xDC\xE4\xEB\xEF\xF6\xFC\xFF", "AEIOUaeiouy");
+    expect_accent(0b01110, 0b01010, "\xC5\xE5", "Aa");
 }
 
 TEST(SmallFont, IsBoldWithoutClosingGaps)
