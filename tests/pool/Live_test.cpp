@@ -14,7 +14,10 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <iterator>
+#include <string>
 #include <utility>
+#include <vector>
 
 using VT::Error;
 
@@ -375,17 +378,89 @@ TEST(PoolReceiving, KeepsRefusedCommandsWithTheirObjects)
 
 TEST(PoolReceiving, KeepsFunctionsThatTheTerminalDoesNotKnow)
 {
+    const std::pair<int, const char*> functions[] = {
+        {0x11, "Object Pool Transfer"},
+        {0x12, "End of Object Pool"},
+        {0xA0, "Hide/Show"},
+        {0xA1, "Enable/Disable"},
+        {0xA5, "Change Child Location"},
+        {0xA6, "Change Size"},
+        {0xA7, "Change Background Colour"},
+        {0xA8, "Change Numeric Value"},
+        {0xAD, "Change Active Mask"},
+        {0xAE, "Change Soft Key Mask"},
+        {0xAF, "Change Attribute"},
+        {0xB3, "Change String Value"},
+        {0xB4, "Change Child Position"},
+        {0xC0, "Get Memory"},
+        {0xC7, "Get Hardware"},
+        {0xFF, "Working Set Maintenance"},
+        {0x77, "function 119"},
+    };
     Panel panel;
     panel.load();
-    for (const Bytes& response : {frame(0xFD, 0xB4), frame(0xFD, 0x77)})
-        panel.pool.receive(response.data(), response.size());
-    const std::vector<VT::Problem> problems = panel.pool.take_problems();
-    ASSERT_EQ(problems.size(), 2u);
-    EXPECT_EQ(problems[0].error, Error::rejected_command);
-    EXPECT_EQ(problems[0].id, Iso::null_id);
-    EXPECT_EQ(problems[0].text, "The terminal does not know Change Child Position");
-    EXPECT_EQ(problems[1].text, "The terminal does not know function 119");
+    for (const auto& [function, name] : functions) {
+        say(panel.pool, frame(0xFD, function));
+        const std::vector<VT::Problem> problems = panel.pool.take_problems();
+        ASSERT_EQ(problems.size(), 1u);
+        EXPECT_EQ(problems[0].error, Error::rejected_command);
+        EXPECT_EQ(problems[0].id, Iso::null_id);
+        EXPECT_EQ(problems[0].text, std::string("The terminal does not know ") + name);
+    }
     EXPECT_TRUE(panel.pool.is_live());
+}
+
+TEST(PoolReceiving, CallsAnObjectWithoutANameByItsClass)
+{
+    const char* const names[] = {
+        "working set",
+        "data mask",
+        "alarm mask",
+        "container",
+        "soft key mask",
+        "key",
+        "button",
+        "input boolean",
+        "input string",
+        "input number",
+        "input list",
+        "output string",
+        "output number",
+        "line",
+        "rectangle",
+        "ellipse",
+        "polygon",
+        "object",
+        "object",
+        "object",
+        "picture graphic",
+        "number variable",
+        "string variable",
+        "font attributes",
+        "line attributes",
+        "fill attributes",
+        "input attributes",
+        "object pointer",
+        "macro",
+        "object",
+    };
+    class Anything final : public VT::VT_obj
+    {
+      public:
+        explicit Anything(std::size_t type) : VT_obj(NULL_ID, nullptr, static_cast<Iso::Object_type>(type)) {}
+        void visit(VT::Attribute_visitor&) override {}
+    };
+    for (std::size_t type = 1; type < std::size(names); ++type) {
+        Anything object(type);
+        Screen screen;
+        screen.pool.add(object);
+        ASSERT_TRUE(screen.pool.prepare());
+        say(screen.pool, frame(0xA6, w(2), 1));
+        const std::vector<VT::Problem> problems = screen.pool.take_problems();
+        ASSERT_EQ(problems.size(), 1u);
+        EXPECT_EQ(problems[0].text,
+                  std::string("The terminal refused Change Size of ") + names[type] + " 2 with error bits 1");
+    }
 }
 
 TEST(PoolReceiving, KeepsTheFirstProblemsOfAnApplicationThatNeverAsks)

@@ -7,7 +7,9 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 using VT::Error;
 using namespace std::chrono_literals;
@@ -104,6 +106,32 @@ TEST(PoolLoadingTime, IsInterruptedEachSecondAlsoWhileOtherMessagesCome)
         loading.terminal.coming.emplace(when, frame(0xFE, 0x26, w(1), w(0xFFFF), 0, 0));
     ASSERT_TRUE(loading.load());
     EXPECT_EQ(loading.terminal.log, "FF 0, C7 0, FF 1000, FF 2000, C0 2500, 11 2500, 12 2500");
+}
+
+TEST(PoolLoadingTime, PassesAlsoWithALinkThatDoesNotWait)
+{
+    class Impatient final : public VT::Client::Terminal_link
+    {
+      public:
+        bool send(const std::uint8_t* message, std::size_t) override
+        {
+            maintained += *message == 0xFF;
+            return true;
+        }
+        bool receive(std::vector<std::uint8_t>&, milliseconds timeout) override
+        {
+            waits.push_back(timeout.count());
+            return waits.size() > 100 ? throw std::runtime_error("it goes on for ever") : false;
+        }
+        std::chrono::steady_clock::time_point now() const override { return {}; } // stands still
+
+        int maintained{0};
+        std::vector<milliseconds::rep> waits;
+    } link;
+    Screen screen;
+    EXPECT_EQ(screen.pool.ask_hardware(link, 2500ms).error(), Error::timed_out);
+    EXPECT_EQ(link.waits, (std::vector<milliseconds::rep>{1000, 1000, 500}));
+    EXPECT_EQ(link.maintained, 3);
 }
 
 TEST(PoolLoadingTime, IsInterruptedBetweenMessagesAsSoonAsASecondIsOver)

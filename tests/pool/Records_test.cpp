@@ -230,6 +230,18 @@ TEST(PoolRecord, OfAnObjectPointer)
     EXPECT_EQ(record_of(pointer), join(w(7), 27, w(0x1234)));
 }
 
+TEST(PoolRecord, ReplacesWhatWasThereBefore)
+{
+    Screen screen;
+    Bytes records{1, 2, 3};
+    ASSERT_TRUE(screen.pool.serialise(records));
+    EXPECT_EQ(records, Screen::own_records());
+    VT::Working_set_obj second;
+    screen.pool.add(second);
+    EXPECT_FALSE(screen.pool.serialise(records));
+    EXPECT_EQ(records, Bytes());
+}
+
 TEST(PoolRecord, OfAFileDoesNotCountAsTold)
 {
     Screen screen;

@@ -110,6 +110,21 @@ TEST(PoolRoutesLife, EndsWithUnroute)
     EXPECT_EQ(live.first.take_heard(), Lines{released(2)});
 }
 
+TEST(PoolRoutesLife, BeginsAndEndsAgainAndAgain)
+{
+    Live_listeners live;
+    for (int i = 0; i < 3; ++i) {
+        for (Busy* component : {&live.first, &live.second, &live.third})
+            live.pool.route(*component, live.mask);
+        live.pool.announce(live.units);
+        for (Busy* component : {&live.second, &live.third, &live.first}) {
+            EXPECT_EQ(component->take_heard(), Lines{"units"});
+            EXPECT_TRUE(live.pool.unroute(*component));
+            EXPECT_FALSE(live.pool.unroute(*component));
+        }
+    }
+}
+
 TEST(PoolRoutesLife, EndsForOneOfTwoAtTheSameAddress)
 {
     struct Around

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -127,6 +128,23 @@ TEST(PoolScaling, KeepsTheComponentsPointsInStepFrom0x8000OnToo)
     EXPECT_EQ(scaled.points(), expected);
 }
 
+TEST(PoolScaling, AsksAComponentForNoMorePointsThanItHas)
+{
+    struct Strict final : C::Vertex_array<Array_array_3>
+    {
+        std::pair<short, short>& point(std::size_t index) override
+        {
+            EXPECT_LT(index, 3u);
+            return C::Vertex_array<Array_array_3>::point(index % 3);
+        }
+    } vertices;
+    C::Polygon_obj polygon;
+    polygon.vertices_ptr = &vertices;
+    Scaled screen;
+    screen.pool.add(polygon);
+    ASSERT_TRUE(screen.pool.load(screen.terminal));
+}
+
 TEST(PoolScaling, RefusesPolygonsWithPointsThatDoNotFit)
 {
     C::Polygon_obj polygon;
@@ -221,6 +239,19 @@ TEST(PoolScaling, WaitsForTheTerminalAndHappensOnce)
     ASSERT_TRUE(screen.pool.load(screen.terminal));
     EXPECT_EQ(container.width, 480);
     EXPECT_EQ(late.width, 480);
+}
+
+TEST(PoolScaling, PassesOverAnObjectThatIsDestroyed)
+{
+    auto destroyed = std::make_unique<C::Container_obj>();
+    C::Container_obj behind;
+    Scaled screen(480, 480);
+    screen.pool.add(*destroyed);
+    screen.pool.add(behind);
+    ASSERT_TRUE(screen.pool.prepare());
+    destroyed.reset();
+    ASSERT_TRUE(screen.pool.load(screen.terminal));
+    EXPECT_EQ(behind.width, 480);
 }
 
 TEST(PoolScaling, DoesNothingWhereTheMaskIsTheDesignedOne)

@@ -157,6 +157,21 @@ TEST(PoolSpecification, IsAppliedOnce)
     EXPECT_EQ(second.width, 50);
 }
 
+TEST(PoolSpecification, IsNotToBlameForWhatObjectsReportLater)
+{
+    C::Container_obj container;
+    container.set_name("frame");
+    Screen screen;
+    screen.pool.add(container);
+    screen.pool.specify("frame", "width", 60);
+    ASSERT_TRUE(screen.pool.prepare());
+    screen.pool.report(container, "width", "is odd");
+    const std::vector<VT::Problem> problems = screen.pool.take_problems();
+    ASSERT_EQ(problems.size(), 1u);
+    EXPECT_EQ(problems[0].error, VT::Error::suspicious_value);
+    EXPECT_EQ(problems[0].text, "container 'frame' (2): width is odd");
+}
+
 TEST(PoolColours, ReportsASymbolThatNobodyKnows)
 {
     C::Key_obj key;
