@@ -2,7 +2,6 @@
 
 #include "vt/VT_obj.h"
 
-#include <algorithm>
 #include <cstring>
 #include <limits>
 

@@ -151,7 +151,7 @@ class VTUI_EXPORT Pool final : public vtui_pool
     static constexpr std::size_t most_problems = 64;
 
     /// The link is gone: changes are noted in the objects only, until the next load(). Also happens when the link
-    /// refuses a message.
+    /// refuses a message, or has become too narrow for a record.
     void disconnect();
 
     // What the objects see of their pool.

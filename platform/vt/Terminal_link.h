@@ -29,7 +29,8 @@ class VTUI_EXPORT Terminal_link
 
     /// How long a message may be, in bytes, its function included: no less than a frame (Iso::frame_size), which is
     /// what a smaller number counts as. Object records go in as few messages as that allows, none of them cut in two.
-    /// Unless a link says less it is what an extended transport session carries, and a whole pool goes in one message.
+    /// Unless a link says less it is what an extended transport session carries, and a whole pool goes in one message;
+    /// a link that knows plain sessions only says Iso::transport_size.
     virtual std::size_t longest_message() const { return Iso::extended_transport_size; }
 
     /// The clock by which receive() waits. A link that plays a terminal may have a time of its own, in which a load

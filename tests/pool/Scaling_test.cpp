@@ -81,6 +81,18 @@ TEST(PoolScaling, StretchesSizesAndPositionsEachItsWay)
     EXPECT_EQ(font.size, 1); // 8 x 8
 }
 
+TEST(PoolScaling, StretchesOneWayWhereTheOtherFits)
+{
+    for (const auto& [width, height] : {std::pair{240, 480}, {480, 240}}) {
+        C::Container_obj container;
+        Scaled screen(width, height);
+        screen.pool.add(container);
+        ASSERT_TRUE(screen.pool.load(screen.terminal));
+        EXPECT_EQ(container.width, width);
+        EXPECT_EQ(container.height, height);
+    }
+}
+
 TEST(PoolScaling, KeepsTheComponentsPlacementsInStep)
 {
     C::Rectangle_obj child;

@@ -157,6 +157,16 @@ TEST(PoolSpecification, IsAppliedOnce)
     EXPECT_EQ(second.width, 50);
 }
 
+TEST(PoolSpecification, IsForNoObjectWithoutAName)
+{
+    C::Container_obj nameless;
+    Screen screen;
+    screen.pool.add(nameless);
+    screen.pool.specify("", "width", 60);
+    EXPECT_EQ(screen.pool.prepare().error(), VT::Error::unknown_object);
+    EXPECT_EQ(nameless.width, 240);
+}
+
 TEST(PoolSpecification, IsNotToBlameForWhatObjectsReportLater)
 {
     C::Container_obj container;
