@@ -65,11 +65,12 @@ class VTUI_EXPORT Store
     void set(const NV_item::Change* begin, const NV_item::Change* end);
 
     /// Returns when all that was set before is on the disk. Throws std::system_error or std::runtime_error, naming the
-    /// file, if the attempt fails; what was set stays, to be tried again. From any thread.
+    /// file, if the attempt fails, also because the file was deleted or replaced; what was set stays, to be tried
+    /// again. From any thread.
     void flush();
 
-    /// What the last attempt to write failed with, once; empty if none failed since the last call. To be asked now and
-    /// then by whoever can tell the driver.
+    /// What attempts to write fail with: once, and once more when it is something else or was mended meanwhile;
+    /// otherwise empty. To be asked now and then by whoever can tell the driver.
     std::string take_problem();
 
   private:

@@ -20,8 +20,8 @@ struct Settings
 {
     explicit Settings(const std::string& file) : store(file)
     {
-        if (!store.put_aside().empty())
-            std::cerr << "settings lost; the damaged file is now " << store.put_aside() << '\n';
+        for (const std::string& name : store.lost())
+            std::cerr << "the setting \"" << name << "\" is lost; see " << store.put_aside() << '\n';
     }
 
     NV_store::Store store; // first: it outlives its numbers
