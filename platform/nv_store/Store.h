@@ -52,8 +52,8 @@ class VTUI_EXPORT Store
     /// The new name of the damaged file that was found here. Empty if there was none.
     const std::string& put_aside() const { return damaged_path; }
     /// If a damaged file was found here: the names of the items that have begun with their defaults because of it, for
-    /// a message to the driver, in alphabetical order. These are the values in the file that are not certain, and of
-    /// the items that there have been so far all of which the file had nothing: perhaps it was never anything else.
+    /// a message to the driver, in alphabetical order. That is every value in the file that is not certain and, of the
+    /// items that there have been so far, each that the file had nothing of: perhaps it was never set.
     std::vector<std::string> lost() const;
 
     /// Sets several items of this store together: after a crash the file has all of it or nothing of it. Other threads
