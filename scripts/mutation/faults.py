@@ -51,23 +51,24 @@ BINARY = {
     "&&": "||", "||": "&&", "&": "|", "|": "&", "^": "|", "<<": ">>", ">>": "<<",
     "+=": "-=", "-=": "+=", "*=": "/=", "/=": "*=", "%=": "/=",
     "&=": "|=", "|=": "&=", "^=": "|=", "<<=": ">>=", ">>=": "<<=",
-}  # fmt: skip
+}
 KINDS = {
     "comparison": ("<", "<=", ">", ">=", "==", "!="),
     "logic": ("&&", "||"),
     "bits": ("&", "|", "^", "<<", ">>", "&=", "|=", "^=", "<<=", ">>="),
 }
+ASSIGNMENTS = {"="} | {sign for sign in BINARY if sign.endswith("=")} - set(KINDS["comparison"])
 OTHER_WORD = {}
 for one, other in (
     ("width", "height"), ("x", "y"), ("horizontal", "vertical"), ("left", "right"), ("top", "bottom"), ("min", "max")
-):  # fmt: skip
+):
     OTHER_WORD.update({one: other, other: one})
 
 OPENING = {"(": ")", "[": "]", "{": "}"}
 BEFORE_OPERAND = {"return", "case", "throw", "else", "do", "co_return", "and", "or", "not"}
 BEGINS_DECLARATION = set(
-    """alignas auto bool char class const constexpr double enum extern float friend int long mutable namespace short signed
-    static static_assert struct template thread_local typedef typename union unsigned using void volatile""".split()
+    """alignas auto bool char class const constexpr double enum extern float friend int long mutable namespace short
+    signed static static_assert struct template thread_local typedef typename union unsigned using void volatile""".split()
 )
 INTEGER = re.compile(r"(0[xX][\da-fA-F']+|[1-9][\d']*|0)([uUlLzZ]*)\Z")
 FLOATING = re.compile(r"([\d']*\.[\d']*(?:[eE][+-]?\d+)?|\d+[eE][+-]?\d+)([fFlL]?)\Z")
@@ -86,7 +87,7 @@ def tokenise(text):
                 kind, match.group(), match.start(), match.end(),
                 before.isspace() and after.isspace(), not before.isspace() and before != "",
             )
-        )  # fmt: skip
+        )
     return tokens
 
 
@@ -128,14 +129,17 @@ class Parser:
                 token.partner = open_ones.pop()
                 self.tokens[token.partner].partner = index
         for index, token in enumerate(self.tokens):
-            if token.text == "<" and (self.at(index - 1) == "template" or (token.glued and self.kind(index - 1) == "word")):
+            if token.text == "<" and self.opens_template(index) and self.kind(index - 1) == "word":
                 self.pair_template(index)
+
+    def opens_template(self, index):
+        return self.tokens[index].glued or self.at(index - 1) == "template"
 
     def pair_template(self, opening):
         depth, index = 0, opening
         while index < len(self.tokens):
             text = self.at(index)
-            if text == "<" and (index == opening or self.tokens[index].glued or self.at(index - 1) == "template"):
+            if text == "<" and self.opens_template(index):
                 depth += 1
             elif text == ">" and not self.tokens[index].spaced:
                 depth -= 1
@@ -379,21 +383,23 @@ class Parser:
         if self.at(index) != "]" or self.tokens[index].dead:
             return False
         before = self.tokens[index].partner - 1
-        return not (self.kind(before) == "word" and self.at(before) not in BEFORE_OPERAND or self.at(before) in (")", "]"))
+        indexed = self.kind(before) == "word" and self.at(before) not in BEFORE_OPERAND or self.at(before) in (")", "]")
+        return not indexed
 
     def choice(self, mark):
         index = mark - 1
-        while index >= 0:
-            text = self.at(index)
-            if text in ("(", "[", "{", ",", ";", "?", ":", "}") or text in BEFORE_OPERAND or (
-                text.endswith("=") and text not in ("==", "!=", "<=", ">=")
-            ):
-                if not (text == "}" and self.tokens[index].partner >= 0 and self.kind(self.tokens[index].partner - 1) == "word"):
-                    break
+        while index >= 0 and not self.ends_choice(index):
             partner = self.tokens[index].partner
             index = partner - 1 if 0 <= partner < index else index - 1
         if index + 1 < mark and not self.tokens[mark].dead:
             self.add("condition", index + 1, mark, ["true", "false"])
+
+    def ends_choice(self, index):
+        """On the left: what does not belong to its condition any more."""
+        text = self.at(index)
+        if text == "}":  # in Size{} it does
+            return self.kind(self.tokens[index].partner - 1) != "word"
+        return text in ("(", "[", "{", ",", ";", "?", ":") or text in ASSIGNMENTS or text in BEFORE_OPERAND
 
     # Sites.
 

@@ -13,7 +13,7 @@ def found(text, kind=None):
         (text[site.begin : site.end], *site.replacements)
         for site in faults.sites(text)
         if kind in (None, site.kind)
-    ]  # fmt: skip
+    ]
 
 
 class Sites(unittest.TestCase):
@@ -48,7 +48,7 @@ class Sites(unittest.TestCase):
                 ('g(*a * -c, &d & e, std::vector<int>{} < h && !i, "t" + j);', ";"),
                 ("*", "/"), ("-", ""), ("&", "|"), ("<", "<="), ("&&", "||"), ("!", ""),
             ],
-        )  # fmt: skip
+        )
 
     def test_constants_change_by_one(self):
         self.assertEqual(
@@ -57,7 +57,7 @@ class Sites(unittest.TestCase):
                 ("0", "1"), ("1", "2", "0"), ("20U", "21U", "19U"), ("0xff", "0xfe"), ("1'000", "1001", "999"),
                 ("0.5", "1.5"), ("true", "false"),
             ],
-        )  # fmt: skip
+        )
 
     def test_whole_statements_go_and_declarations_stay(self):
         self.assertEqual(
@@ -110,7 +110,7 @@ class Sites(unittest.TestCase):
                 ("i != k", "false"), ("!=", "=="),
                 ("true", "false"),
             ],
-        )  # fmt: skip
+        )
 
     def test_a_result_is_only_changed_where_it_is_a_bool(self):
         self.assertEqual(found("int f() { return a; } auto g = [] { return b; };"), [])

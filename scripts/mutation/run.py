@@ -107,7 +107,7 @@ def room_sites(room, only):
                         path, line, site.begin, site.end, text[site.begin : site.end], new, site.kind,
                         plain(text[first:last]), after,
                     )
-                )  # fmt: skip
+                )
             result.append(mutants)
     return result
 
@@ -153,7 +153,7 @@ class Worker:
         listed = subprocess.run(
             ["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
             cwd=TREE, check=True, capture_output=True, text=True,
-        ).stdout  # fmt: skip
+        ).stdout
         wanted = {name for name in listed.split("\0") if name and (TREE / name).is_file()}
         for name in wanted:
             ours, theirs = self.copy / name, TREE / name
@@ -173,7 +173,7 @@ class Worker:
             "-DCMAKE_BUILD_TYPE=", "-DCMAKE_CXX_FLAGS=-w -D_GLIBCXX_ASSERTIONS",
             "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST",
             f"-DCMAKE_CXX_COMPILER_LAUNCHER={shutil.which('ccache') or ''}",
-        ]  # fmt: skip
+        ]
         self.expect(*self.run(configure, 600), "cannot be configured")
         for _ in range(2):  # what an interrupted run has left unfinished in ninja's notes shows at the second time
             self.expect(*self.run(["ninja", "-C", self.build, f"-j{jobs}", *self.programs], 7200), "does not build")
@@ -244,15 +244,16 @@ class Worker:
         return ""
 
     def run_test(self, program, seconds, tests, times=None):
-        """With bounded memory, a folder of its own for what it writes, and less processor time than time: a loop without
-        end is stopped soon, and a test that a busy machine lets wait is not."""
+        """With bounded memory, a folder of its own for what it writes, and less processor time than time: a loop
+        without end is stopped soon, and a test that a busy machine lets wait is not."""
         scratch = self.folder / "scratch"
         shutil.rmtree(scratch, ignore_errors=True)
         scratch.mkdir()
+        processor = int(seconds) - 8  # the soft limit of files alone, as a test sets its own
         command = [
-            "prlimit", "--core=0", f"--as={4 << 30}", f"--fsize={1 << 30}", f"--cpu={int(seconds) - 8}:{int(seconds) - 7}",
+            "prlimit", "--core=0", f"--as={4 << 30}", f"--fsize={1 << 30}:", f"--cpu={processor}:{processor + 1}",
             self.build / program, "--gtest_brief=1", "--gtest_fail_fast", "--gtest_color=no", f"--gtest_filter={tests}",
-        ]  # fmt: skip
+        ]
         if times:
             command.append(f"--gtest_output=json:{times}")
         return self.run(command, seconds, scratch, {"TMPDIR": str(scratch), **ENVIRONMENT})
@@ -265,11 +266,11 @@ class Worker:
         caching = {
             "CCACHE_BASEDIR": str(self.folder), "CCACHE_NOHASHDIR": "1", "CCACHE_DEPEND": "1",
             "CCACHE_SLOPPINESS": "pch_defines,time_macros,include_file_mtime,include_file_ctime",
-        }  # fmt: skip
+        }
         process = subprocess.Popen(
             [str(word) for word in command], cwd=folder or self.folder, env={**os.environ, **caching, **environment},
             stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, start_new_session=True,
-        )  # fmt: skip
+        )
         self.running = process
         try:
             output, _ = process.communicate(timeout=seconds)
@@ -442,7 +443,7 @@ def main():
     mutants.sort(key=lambda mutant: mutant.path.endswith(".h"))  # at the end, as each takes long to build
     to_run = [mutant for mutant in mutants if mutant.identity() not in accepted]
     equivalent = len(mutants) - len(to_run)
-    print(f"{wanted.room}: {len(mutants)} faults, seed {wanted.seed}, of {len(sites)} places; {equivalent} are accepted as equivalent")
+    print(f"{wanted.room}: {len(mutants)} faults, seed {wanted.seed}, of {len(sites)} places; {equivalent} are accepted")
 
     WORK.mkdir(parents=True, exist_ok=True)
     with open(WORK / "lock", "w") as lock:
