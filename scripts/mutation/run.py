@@ -179,7 +179,8 @@ class Worker:
             self.expect(*self.run(["ninja", "-C", self.build, f"-j{jobs}", *self.programs], 7200), "does not build")
         for program in self.programs:
             times = self.folder / "times.json"
-            self.expect(*self.run_test(program, 600, "*", times), f"fails {program} without any fault")
+            status, output = self.run_test(program, 600, "*", times)
+            self.expect(status, output, f"fails without any fault: {program}: {how_it_ended(status, output)}")
             self.runs[program] = quick_and_slow(times)
         self.keep()
 
@@ -249,7 +250,8 @@ class Worker:
         scratch = self.folder / "scratch"
         shutil.rmtree(scratch, ignore_errors=True)
         scratch.mkdir()
-        processor = int(seconds) - 8  # the soft limit of files alone, as a test sets its own
+        processor = int(seconds) - 8
+        # Of files only the soft limit, as a test sets its own.
         command = [
             "prlimit", "--core=0", f"--as={4 << 30}", f"--fsize={1 << 30}:", f"--cpu={processor}:{processor + 1}",
             self.build / program, "--gtest_brief=1", "--gtest_fail_fast", "--gtest_color=no", f"--gtest_filter={tests}",
