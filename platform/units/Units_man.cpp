@@ -97,11 +97,11 @@ VT::String_variable_obj* Units_man::get_units_string(VT::vtui_pool* pool, units_
     const Quantity& quantity = quantities[type];
     if (VT::String_variable_obj* const made = pool->find_text(quantity.name))
         return made;
-    std::size_t room = 0;
-    for (const Units& units : quantity.units)
-        room = std::max(room, std::strlen(units.text));
+    const auto& [in_metric, in_imperial, in_us] = quantity.units;
+    const std::size_t room =
+        std::max({std::strlen(in_metric.text), std::strlen(in_imperial.text), std::strlen(in_us.text)});
     VT::String_variable_obj& string = pool->make_text(quantity.name, static_cast<std::uint16_t>(room));
-    write(string, quantity.units[metric].text);
+    write(string, in_metric.text);
     return &string;
 }
 
