@@ -255,6 +255,16 @@ TEST_F(CdsNumberWidget, LeavesAnEntryThatTheTypeRoundsOnTheScreenIfItLooksTheSam
     expect_an_entry_of_60_miles_to_stay(data.ull);
 }
 
+TEST_F(CdsNumberWidget, ShowsWhatATypeMakesOfAnEntryThatWrapsAround)
+{
+    Cds_number_widget<unsigned> input(head, data.u, style(0, true), bounded(-1000, 1000), nullptr);
+    go_live(input);
+    enter(input, 0); // -1000, as a raw number the same as what is stored
+    EXPECT_EQ(data.u, 4294966296U);
+    EXPECT_EQ(head.deliver(), 1U);
+    EXPECT_EQ(input.get_value(), 1000) << "held within the limits";
+}
+
 TEST_F(CdsNumberWidget, ShowsAnEntryThatWasNotOnTheScreen)
 {
     Cds_number_widget<double> field(head, data.d, style(0, true), bounded(0, 10), nullptr);

@@ -251,17 +251,18 @@ void Number_widget::set_value(double v)
     }
     value = v;
 
-    const std::uint32_t raw = to_raw(v);
+    const std::uint32_t raw = Conversion::to_uint32(to_steps(v) - output_number.offset);
     output_number.set_value(raw);
     if (is_child(input_number))
         input_number.set_value(raw);
 }
 
-std::uint32_t Number_widget::to_raw(double v) const
+/// Of the display, from its zero.
+double Number_widget::to_steps(double v) const
 {
     const double display = v * Units_man::get(system, specifications[system].units_type);
     const double scale = input_number.scale;
-    return Conversion::to_uint32(std::rint(display / scale) - output_number.offset);
+    return std::rint(display / scale);
 }
 
 void Number_widget::increment(double step)

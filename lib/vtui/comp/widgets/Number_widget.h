@@ -154,9 +154,9 @@ class VTUI_EXPORT Number_widget : public Widget
     Point layout_origin;
 
   protected:
-    /// True if `v`, engineering units, looks on the terminal as get_value() does: both are the same raw number there.
-    /// Limits do not count.
-    bool looks_like(double v) const { return to_raw(v) == to_raw(value); }
+    /// True if `v`, engineering units, is shown as get_value() is: both are the same number of steps. Limits do not
+    /// count.
+    bool looks_like(double v) const { return to_steps(v) == to_steps(value); }
     /// As handle_event(), and if a system is chosen the field shows `stored` there, if there is one: its own value may
     /// have been cut by the limits of the system before.
     void follow(Units_man& units_man, const double* stored);
@@ -164,7 +164,7 @@ class VTUI_EXPORT Number_widget : public Widget
   private:
     bool is_child(const VT::VT_obj& number);
     void show_units();
-    std::uint32_t to_raw(double v) const;
+    double to_steps(double v) const;
 };
 
 } // namespace VT::Comp
