@@ -1,9 +1,11 @@
 #include "pool/Entry.h"
 
-#include "vt/VT_obj.h"
+#include "vtui/comp/objects/Button_obj.h"
+#include "vtui/comp/objects/Input_number_obj.h"
 
 #include <cstring>
 #include <limits>
+#include <typeinfo>
 
 namespace VT {
 
@@ -39,11 +41,19 @@ A* find(VT_obj& object, const char* name)
     return finder.found;
 }
 
+/// Spares the objects of most screens the search: those of class C, which has the attribute as that member.
+template <class C, class A, class Base>
+A* find(VT_obj& object, A Base::*member, const char* name)
+{
+    return typeid(object) == typeid(C) ? &(static_cast<C&>(object).*member) : find<A>(object, name);
+}
+
 /// Where an input has its value: in its variable, which is of that type, or without one in itself. Null where that is
 /// not in the pool.
 VT_obj* holder(const Object_table& objects, VT_obj& input, Type variable_type)
 {
-    const auto* const reference = find<Attribute_object_id_spec>(input, "variable_reference");
+    const auto* const reference =
+        find<Comp::Input_number_obj>(input, &Input_number_obj::variable_reference, "variable_reference");
     if (!reference || *reference == Iso::null_id)
         return &input;
     VT_obj* const variable = objects.find(*reference);
@@ -65,7 +75,7 @@ void note_entry(const Object_table& objects, const VT_change_numeric_value_event
     VT_obj* const object = holder(objects, *input, Type::number_variable);
     if (!object)
         return;
-    if (auto* const number = find<Attribute_uint32>(*object, "value")) {
+    if (auto* const number = find<Comp::Input_number_obj>(*object, &Input_number_obj::value, "value")) {
         *number = entered.value;
         number->set_told();
     } else if (auto* const choice = find<Attribute_uint8>(*object, "value");
@@ -97,7 +107,7 @@ void note_entry(const Object_table& objects, const Button_activation_event& acti
     VT_obj* const button = objects.find(activation.object_id);
     if (!button || button->get_type() != Type::button)
         return;
-    auto* const options = find<Attribute_uint8>(*button, "options");
+    auto* const options = find<Comp::Button_obj>(*button, &Button_obj::options, "options");
     if (!options || !(*options & latchable))
         return;
     const bool other_change = options->changed(); // which the terminal has yet to be told
