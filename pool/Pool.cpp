@@ -139,7 +139,7 @@ void Pool::scale_new(const Preparation& run, Result& result)
                                    "The pool was scaled to a data mask of " + in_pixels(scaled_width, scaled_height) +
                                        " pixels and stays so; the terminal's has " + in_pixels(width, height)});
     }
-    const Scale by{scaled_width, scaled_height, designed_size, designed_size};
+    const Scale by{scaled_width, scaled_height, designed_size};
     scale(objects, scaled, by, result.errors);
     if (!result.errors.empty())
         return;

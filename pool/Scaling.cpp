@@ -37,13 +37,13 @@ void scale(const Object_table& objects, std::size_t first, Scale by, std::vector
     bool all_fit = true;
     for (std::size_t place = first; place < objects.size(); ++place) {
         VT_obj* const object = objects[place];
-        if (!object || object->check_scale_area(by.to_width, by.to_height, by.from_width, by.from_height))
+        if (!object || object->check_scale_area(by.to_width, by.to_height, by.from, by.from))
             continue;
         all_fit = false;
         problems.push_back({Error::does_not_fit, object->get_id(), name_of(*object),
                             describe(*object) + " does not fit 16 bits when the pool is scaled from " +
-                                in_pixels(by.from_width, by.from_height) + " to " +
-                                in_pixels(by.to_width, by.to_height) + " pixels"});
+                                in_pixels(by.from, by.from) + " to " + in_pixels(by.to_width, by.to_height) +
+                                " pixels"});
     }
     if (!all_fit)
         return;
@@ -54,20 +54,20 @@ void scale(const Object_table& objects, std::size_t first, Scale by, std::vector
         if (!object)
             continue;
         const std::lock_guard hold(*object);
-        object->__set_scale(by.to_width, by.to_height, by.from_width, by.from_height);
+        object->__set_scale(by.to_width, by.to_height, by.from, by.from);
         // The component writes its placements and points out again when it moves one of them.
         const Kind& kind = kinds.of(*object);
         if (Comp::Child_placements* const children = placements_of(kind, *object))
             for (std::size_t i = 0; i < children->size(); ++i) {
                 Comp::Child_placement& child = children->placement(i);
-                child.x = scaled(child.x, by.to_width, by.from_width);
-                child.y = scaled(child.y, by.to_height, by.from_height);
+                child.x = scaled(child.x, by.to_width, by.from);
+                child.y = scaled(child.y, by.to_height, by.from);
             }
         if (Comp::Vertices* const vertices = vertices_of(kind, *object))
             for (std::size_t i = 0; i < vertices->size(); ++i) {
                 auto& [x, y] = vertices->point(i);
-                x = scaled_point(x, by.to_width, by.from_width);
-                y = scaled_point(y, by.to_height, by.from_height);
+                x = scaled_point(x, by.to_width, by.from);
+                y = scaled_point(y, by.to_height, by.from);
             }
     }
 }
@@ -75,8 +75,8 @@ void scale(const Object_table& objects, std::size_t first, Scale by, std::vector
 void scale(Attribute_object_placement* children, std::size_t count, Scale by)
 {
     for (std::size_t i = 0; i < count; ++i) {
-        children[i].x = scaled<std::int16_t>(children[i].x, by.to_width, by.from_width);
-        children[i].y = scaled<std::int16_t>(children[i].y, by.to_height, by.from_height);
+        children[i].x = scaled<std::int16_t>(children[i].x, by.to_width, by.from);
+        children[i].y = scaled<std::int16_t>(children[i].y, by.to_height, by.from);
     }
 }
 

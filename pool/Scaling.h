@@ -12,13 +12,13 @@
 
 namespace VT {
 
-/// From the mask that the objects are laid out for to the mask of the terminal, pixels.
+/// From the mask that the objects are laid out for, which is square, to the mask of the terminal; pixels.
 struct Scale
 {
     std::uint16_t to_width, to_height;
-    std::uint16_t from_width, from_height;
+    std::uint16_t from;
 
-    bool is_none() const { return to_width == from_width && to_height == from_height; }
+    bool is_none() const { return to_width == from && to_height == from; }
 };
 
 /// "240 x 240"

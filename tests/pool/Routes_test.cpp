@@ -270,6 +270,16 @@ TEST(PoolRoutes, LeadFromOneMemberPastAnother)
     EXPECT_EQ(outer.first.take_heard(), Lines{released(outer.first.button)});
 }
 
+TEST(PoolRoutes, LeadNowhereFromAnObjectOfWhichTheyHaveNotHeard)
+{
+    Button_listener listener;
+    VT::Routes routes;
+    routes.add(listener);
+    VT::Button_activation_event event;
+    routes.deliver(7, &event);
+    EXPECT_EQ(listener.take_heard(), nothing);
+}
+
 TEST(PoolRoutes, DoNotTakeOneMemberForAnotherBesideIt)
 {
     struct Outer
