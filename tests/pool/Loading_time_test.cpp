@@ -9,6 +9,7 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 using VT::Error;
@@ -173,6 +174,18 @@ TEST(PoolLoadingTime, LetsAnAnswerComeUntilTheTimeoutIsOver)
         late.terminal.thinking = {{function, timeout + 1ms}};
         EXPECT_EQ(late.failure().error, Error::timed_out);
         EXPECT_EQ(late.terminal.time, timeout);
+    }
+}
+
+TEST(PoolLoadingTime, IsThreeSecondsForAQuestionAndHalfAMinuteForThePoolUnlessToldOtherwise)
+{
+    for (const auto& [function, patience] : {std::pair<std::uint8_t, milliseconds>(0xC7, 3s), {0x12, 30s}}) {
+        Loading in_time;
+        in_time.terminal.thinking = {{function, patience}};
+        EXPECT_TRUE(in_time.pool.load(in_time.terminal));
+        Loading too_late;
+        too_late.terminal.thinking = {{function, patience + 1ms}};
+        EXPECT_FALSE(too_late.pool.load(too_late.terminal));
     }
 }
 
