@@ -50,7 +50,13 @@ bool Lock::take()
     wanted.l_whence = SEEK_SET;
     wanted.l_start = first_byte;
     wanted.l_len = bytes;
-    return fcntl(descriptor, F_OFD_SETLK, &wanted) == 0 && !is_moved();
+    if (fcntl(descriptor, F_OFD_SETLK, &wanted) == 0)
+        return !is_moved();
+    const int error = errno;
+    if (error == EAGAIN || error == EACCES)
+        return false;
+    close(); // no destructor will
+    throw Problem::refused(naming(path) + " cannot be locked", error);
 }
 
 void Lock::close()

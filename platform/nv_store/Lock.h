@@ -11,7 +11,8 @@ namespace NV_store {
 class Lock
 {
   public:
-    /// Makes the file if there is none. Throws a Problem, after a second if somebody else has the file.
+    /// Makes the file if there is none. Throws a Problem: after a second if somebody else has the file, otherwise at
+    /// once.
     explicit Lock(const std::string& path);
     ~Lock();
     Lock(const Lock&) = delete;

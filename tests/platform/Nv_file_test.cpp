@@ -5,10 +5,16 @@
 
 #include <atomic>
 #include <cmath>
+#include <cstddef>
+#include <fcntl.h>
 #include <future>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
 #include <map>
 #include <optional>
 #include <sys/inotify.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -241,6 +247,32 @@ TEST_F(NvFile, IsOpenOnceUnderWhateverName)
     fs::create_hard_link(path, path + "2");
     const Store store(path);
     EXPECT_EQ(open_complaint(path + "2"), "non-volatile store \"" + path + "2\" is open elsewhere");
+}
+
+/// From now on the system refuses locks to this process. Returns whether it could be asked to.
+bool forbid_locks()
+{
+#ifdef SYS_fcntl64
+    constexpr unsigned call = SYS_fcntl64;
+#else
+    constexpr unsigned call = SYS_fcntl;
+#endif
+    sock_filter steps[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, call, 0, 3),
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, args[1])),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, F_OFD_SETLK, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | ENOLCK),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    };
+    const sock_fprog program{static_cast<unsigned short>(std::size(steps)), steps};
+    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
+}
+
+TEST_F(NvFile, ThatCannotBeLockedIsNotSaidToBeOpenElsewhere)
+{
+    EXPECT_EQ(in_another_process([&] { return forbid_locks() ? open_complaint(path) : "locks cannot be forbidden"; }),
+              named() + " cannot be locked: No locks available");
 }
 
 /// What another process says of the file once it is told to look; it is made before this one has other threads.
