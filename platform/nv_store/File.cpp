@@ -235,9 +235,11 @@ Problem File::write(const std::vector<Change>& changes)
         if (lock.is_moved())
             throw Problem{naming(path) + " was deleted or replaced while it was open"};
         set_up();
-        if (!changes.empty())
+        fold_log_in(); // what the last attempt may have left: otherwise each one lengthens the log
+        if (!changes.empty()) {
             put_changes(changes);
-        fold_log_in();
+            fold_log_in();
+        }
         return {};
     } catch (const Problem& problem) {
         if (!sqlite3_get_autocommit(database.get()))

@@ -106,6 +106,34 @@ TEST_F(NvDisk, ThatTakesNothingIsReportedOnceUntilItIsMended)
     EXPECT_EQ(try_to_write(SQLITE_OK), "");
 }
 
+TEST_F(NvDisk, ThatTakesNothingButTheLogDoesNotLetItGrow)
+{
+    std::atomic<bool> is_bad{false};
+    const Vfs vfs([&](const Vfs::Event& event) {
+        return is_bad && event.what == Vfs::Event::write && event.path == path ? SQLITE_IOERR_WRITE : SQLITE_OK;
+    });
+    const auto log_size = [&] { return fs::file_size(path + "-wal"); };
+    {
+        Store store(path, never);
+        Int item(store, "item", 0);
+        item.set(1);
+        store.flush();
+        const auto size = log_size();
+        is_bad = true;
+        for (int attempt = 0; attempt < 20; ++attempt) {
+            item.set(attempt / 2 + 2); // every other one brings nothing new
+            EXPECT_EQ(complaint([&] { store.flush(); }), named() + " cannot be written: disk I/O error");
+            EXPECT_EQ(log_size(), size);
+        }
+        is_bad = false;
+        store.flush();
+        EXPECT_EQ(log_size(), size);
+    }
+    Store store(path);
+    EXPECT_EQ(store.put_aside(), "");
+    EXPECT_EQ(Int(store, "item", 0).get(), 11);
+}
+
 TEST_F(NvDisk, IsTriedAgainWithoutBeingAskedAfterTwoSeconds)
 {
     using Clock = std::chrono::steady_clock;
