@@ -214,6 +214,8 @@ bool File::read_seal(Bits& sealed)
 /// Lets a new file with these rows take its place. Its lock stays with the damaged one.
 std::string File::give_way(const std::vector<Row>& rows)
 {
+    for (Statement* const statement : {&begin, &put, &seal, &commit})
+        statement->reset(); // as long as there is one, SQLite closes nothing
     database.reset();
     try {
         return replace(path, [&](const std::string& successor) {

@@ -515,6 +515,20 @@ TEST_F(NvFile, OnABadPartOfTheDiskIsPutAside)
     EXPECT_EQ(open_complaint(path), "");
 }
 
+TEST_F(NvFile, ThatTurnsOutBadWhileItIsMadeIsClosed)
+{
+    const Vfs vfs([this](const Vfs::Event& event) {
+        const bool is_bad = event.what == Vfs::Event::read && event.path == path + "-wal" && !fs::exists(aside(1));
+        return is_bad ? SQLITE_IOERR_READ : SQLITE_OK;
+    });
+    const Store store(path);
+    EXPECT_EQ(store.put_aside(), aside(1));
+    for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+        std::error_code closed_meanwhile;
+        EXPECT_EQ(fs::read_symlink(entry, closed_meanwhile).string().find(aside(1)), std::string::npos) << entry;
+    }
+}
+
 TEST_F(NvFile, OnADiskThatCannotBeReadAtAllIsRefused)
 {
     make();
