@@ -9,6 +9,7 @@
 #include <limits>
 #include <sqlite3.h>
 #include <unistd.h>
+#include <utility>
 
 namespace NV_store {
 
@@ -75,14 +76,17 @@ std::string File::whole_path(const std::string& path)
 std::unique_ptr<File> File::open(const std::string& path, Content& content)
 {
     try {
-        content.put_aside = finish_replacement(path);
         std::unique_ptr<File> file(new File(path));
+        content.put_aside = settle_replacement(path);
+        if (file->lock.is_moved()) // if there was something to settle
+            file.reset(new File(path));
         if (!file->examine(content).empty()) {
             content.put_aside = file->give_way(content.rows);
             file.reset(new File(path));
             Content in_new_file;
             if (const std::string damage = file->examine(in_new_file); !damage.empty())
                 throw Problem{naming(path) + " cannot be made: " + damage};
+            content.rows = std::move(in_new_file.rows); // another process may have had it for a moment
         }
         file->write({}); // what a process left that was killed; if the disk takes nothing now, the next one tries again
         return file;
@@ -93,7 +97,7 @@ std::unique_ptr<File> File::open(const std::string& path, Content& content)
     }
 }
 
-File::File(const std::string& path_) : path(path_), lock(path_) { undo_replacement(path); }
+File::File(const std::string& path_) : path(path_), lock(path_) {}
 
 File::~File()
 {

@@ -74,6 +74,23 @@ void sync_folder(const fs::path& path)
     close(folder);
 }
 
+/// The successor takes its place, unless another process has just seen to that.
+void complete(const std::string& path, const Names& names)
+{
+    std::error_code error;
+    fs::rename(names.successor, path, error);
+    if (error && error != std::errc::no_such_file_or_directory)
+        throw fs::filesystem_error(names.successor, error);
+    sync_folder(path);
+}
+
+/// Somebody has put a file there since. An empty one is only what whoever finds none makes.
+bool is_put_there(const std::string& path, const Names& names)
+{
+    std::error_code gone;
+    return !fs::is_empty(path, gone) && !fs::equivalent(path, names.damaged, gone);
+}
+
 } // namespace
 
 std::string replace(const std::string& path, const std::function<void(const std::string& successor)>& make)
@@ -82,41 +99,34 @@ std::string replace(const std::string& path, const std::function<void(const std:
     const unsigned n = all.empty() ? 1 : *all.rbegin() + 1;
     const Names names(path, n);
     make(names.successor);
-    // The database last: as long as it is there, the next start undoes this.
+    // The database last: as long as it has no other name, the next start undoes this.
     move(path, names.damaged);
-    fs::rename(path, names.damaged);
-    fs::rename(names.successor, path);
-    sync_folder(path);
+    std::error_code has_no_links;
+    fs::create_hard_link(path, names.damaged, has_no_links);
+    if (has_no_links)
+        fs::rename(path, names.damaged); // so for a moment the path leads nowhere
+    complete(path, names);
     for (all.insert(n); all.size() > kept; all.erase(all.begin()))
         remove(Names(path, *all.begin()).damaged);
     return names.damaged;
 }
 
-std::string finish_replacement(const std::string& path)
-{
-    if (is_there(path))
-        return {};
-    for (const unsigned n : numbers(path)) {
-        const Names names(path, n);
-        if (is_there(names.damaged) && is_there(names.successor)) {
-            fs::rename(names.successor, path);
-            sync_folder(path);
-            return names.damaged;
-        }
-    }
-    return {};
-}
-
-void undo_replacement(const std::string& path)
+std::string settle_replacement(const std::string& path)
 {
     for (const unsigned n : numbers(path)) {
         const Names names(path, n);
         if (!is_there(names.successor))
             continue;
-        if (!is_there(names.damaged))
+        const bool is_named = is_there(names.damaged);
+        if (is_named && !is_put_there(path, names)) {
+            complete(path, names);
+            return names.damaged;
+        }
+        if (!is_named)
             move(names.damaged, path);
         remove(names.successor);
     }
+    return {};
 }
 
 } // namespace NV_store

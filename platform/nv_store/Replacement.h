@@ -13,12 +13,10 @@ namespace NV_store {
 /// that takes its place, under the name that it is given. Keeps the newest three of the damaged ones.
 std::string replace(const std::string& path, const std::function<void(const std::string& successor)>& make);
 
-/// Finishes what a process left that was killed when the path led nowhere. Returns the name of the damaged file; empty
-/// if there was nothing to finish.
-std::string finish_replacement(const std::string& path);
-
-/// Undoes what a process left that was killed before. Only for whoever holds the file's lock.
-void undo_replacement(const std::string& path);
+/// Finishes what a process left that was killed on the way, or undoes it if the damaged file had no other name yet.
+/// Returns that name if it was finished, otherwise nothing. Only for whoever holds the lock of what is there: when this
+/// is finished, or another process has finished it, something else is there.
+std::string settle_replacement(const std::string& path);
 
 } // namespace NV_store
 
