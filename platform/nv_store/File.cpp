@@ -151,8 +151,9 @@ std::string File::judge(Content& content, bool& is_certain)
     const bool is_intact = verdict == "ok";
 
     const std::string tables = std::string(items_table) + ';' + seal_table;
-    is_unsealed = found != tables;
+    const bool is_unsealed = found != tables;
     if (is_intact && found.empty() && owner == 0 && version == 0) {
+        to_write_anew.emplace();
         set_up();
         return {};
     }
@@ -161,8 +162,8 @@ std::string File::judge(Content& content, bool& is_certain)
     Sums sums;
     if (found == tables_of_1) {
         read("SELECT name, type, value FROM items", false, content);
-        unsealed = content.rows;
-    } else if (found == tables) {
+        to_write_anew = content.rows;
+    } else if (!is_unsealed) {
         sums = read("SELECT name, type, value, checksum FROM items", true, content);
         is_sealed = read_seal(sealed);
         is_certain = is_sealed ? sealed == sums.computed || sealed == sums.stored : is_intact;
@@ -224,8 +225,8 @@ std::string File::give_way(const std::vector<Row>& rows)
     try {
         return replace(path, [&](const std::string& successor) {
             File made(successor);
-            made.unsealed = rows;
-            made.is_unsealed = made.is_checked = true;
+            made.to_write_anew = rows;
+            made.is_checked = true;
             made.connect();
             made.set_up();
         });
@@ -266,7 +267,7 @@ void File::set_up()
     execute("PRAGMA wal_autocheckpoint=0");
     begin = compile("BEGIN IMMEDIATE");
     commit = compile("COMMIT");
-    if (is_unsealed)
+    if (to_write_anew)
         write_anew();
     else
         compile_puts();
@@ -284,7 +285,7 @@ void File::write_anew()
     execute(seal_table);
     compile_puts();
     sum = 0;
-    for (const Row& row : unsealed) {
+    for (const Row& row : *to_write_anew) {
         put_row(row.name, row.type, row.value);
         sum += checksum(row.name, row.type, row.value);
     }
@@ -292,8 +293,7 @@ void File::write_anew()
     execute(("PRAGMA application_id=" + std::to_string(application)).c_str());
     execute(("PRAGMA user_version=" + std::to_string(format_version)).c_str());
     step(commit);
-    is_unsealed = false;
-    unsealed.clear();
+    to_write_anew.reset();
 }
 
 void File::compile_puts()

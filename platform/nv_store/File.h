@@ -7,6 +7,7 @@
 #include "nv_store/Row.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -99,10 +100,9 @@ class File
     const char* failing{"cannot be opened"};
     bool is_checked{false};
     bool is_set_up{false};
-    bool is_unsealed{false};                  ///< the file is to be written anew, with checksums
-    std::vector<Row> unsealed;                ///< and these rows
-    Bits sum{0};                              ///< of the checksums of all rows
-    std::unique_ptr<sqlite3, Close> database; // outlives the statements
+    std::optional<std::vector<Row>> to_write_anew; ///< with checksums
+    Bits sum{0};                                   ///< of the checksums of all rows
+    std::unique_ptr<sqlite3, Close> database;      // outlives the statements
     Statement begin;
     Statement put;
     Statement seal;
