@@ -109,7 +109,7 @@ bool Dialogue::transfer(Records& records, const std::function<void(std::size_t, 
 {
     const std::size_t total = records.bytes.size() - 1;
     std::size_t sent = 0;
-    for (const std::size_t end : records.messages) {
+    for (const std::size_t end : records.ends) {
         std::uint8_t* const message = records.bytes.data() + sent;
         *message = static_cast<std::uint8_t>(Iso::Function::object_pool_transfer);
         if (!link.send(message, 1 + end - sent))

@@ -17,8 +17,8 @@ namespace VT {
 /// Object records, and how they are parted to messages.
 struct Records
 {
-    std::vector<std::uint8_t> bytes{0};  ///< one for the first message's function, then the records
-    std::vector<std::size_t> messages{}; ///< how many bytes of records have gone with the end of each
+    std::vector<std::uint8_t> bytes{0}; ///< one for the first message's function, then the records
+    std::vector<std::size_t> ends{};    ///< of the messages, in bytes from the first record on
 };
 
 /// A frame: the function and what follows it, filled up.

@@ -55,6 +55,7 @@ const Kind& Kinds::learn(VT_obj& object)
     kind.links = links_of(object);
     kind.is_parent = is_a<Parent_obj>(object);
     kind.has_states = is_a<Comp::N_state_pointer_obj<2>>(object);
+    kind.has_covers = is_a<Comp::Cover_pointer>(object);
     auto* const has_placements = dynamic_cast<Comp::Has_child_placements*>(&object);
     auto* const list = dynamic_cast<Object_list*>(&object);
     if (has_placements && list) {

@@ -11,6 +11,7 @@
 #include "vtui/comp/objects/Output_string_obj.h"
 #include "vtui/comp/objects/Polygon_obj.h"
 #include "vtui/comp/objects/Rectangle_obj.h"
+#include "vtui/comp/widgets/Disable_widget.h"
 
 #include <cstddef>
 #include <optional>
@@ -40,6 +41,7 @@ struct Kind
     Links links{Links::none};
     bool is_parent{false};  ///< a Parent_obj
     bool has_states{false}; ///< a pointer with a target per state
+    bool has_covers{false}; ///< one that may come to show other covers
 
     /// Where in the object lies its Has_child_placements and, only with that, its Object_list.
     std::optional<std::ptrdiff_t> placements;
@@ -172,7 +174,8 @@ void for_each_reachable(const Kind& kind, VT_obj& object, F&& reach)
         auto& pointer = static_cast<Comp::N_state_pointer_obj<2>&>(object);
         for (VT_obj* const shown : pointer.states)
             reach(shown);
-        reach(pointer.detached);
+        if (kind.has_covers)
+            reach(&static_cast<Comp::Cover_pointer&>(object).largest);
     }
     for_each_link(kind, object, [&](VT_obj* target, Attribute_object_id_spec&) { reach(target); });
 }

@@ -3,9 +3,9 @@
 #include "iso11783/Function.h"
 #include "pool/Colours.h"
 #include "pool/Dialogue.h"
-#include "pool/Entry.h"
 #include "pool/Kind.h"
 #include "pool/Names.h"
+#include "pool/Operator_change.h"
 #include "pool/Preparation.h"
 #include "pool/Record_writer.h"
 #include "pool/Scaling.h"
@@ -35,7 +35,7 @@ class Listening
     Result*& listener;
 };
 
-/// For records, in a message of the link.
+/// How many bytes of records a message of the link has room for.
 std::size_t room_in(const Client::Terminal_link& link) { return std::max(link.longest_message(), Iso::frame_size) - 1; }
 
 Problem too_long(const VT_obj& object, std::size_t size, std::size_t room)
@@ -229,13 +229,13 @@ Records Pool::write_records(std::size_t room, std::vector<Problem>& errors)
         if (size > room)
             errors.push_back(too_long(*objects[place], size, room));
         if (end + size - begin > room) {
-            records.messages.push_back(end);
+            records.ends.push_back(end);
             begin = end;
         }
         end += size;
         largest = std::max(largest, size);
     }
-    records.messages.push_back(end);
+    records.ends.push_back(end);
     message.reserve(largest + Iso::frame_size);
     return records;
 }
@@ -271,11 +271,11 @@ Terminal_message Pool::receive(const std::uint8_t* received, std::size_t size)
 void Pool::take_note(const Terminal_message& received)
 {
     if (const auto* const entered = std::get_if<VT_change_numeric_value_event>(&received)) {
-        note_entry(objects, *entered);
+        note_change(objects, *entered);
     } else if (const auto* const text = std::get_if<VT_change_string_value_event>(&received)) {
-        note_entry(objects, *text);
+        note_change(objects, *text);
     } else if (const auto* const activation = std::get_if<Button_activation_event>(&received)) {
-        note_entry(objects, *activation);
+        note_change(objects, *activation);
     } else if (const auto* const information = std::get_if<VT_information>(&received)) {
         if (information->has_pixels())
             terminal_information = *information;

@@ -141,7 +141,7 @@ class VTUI_EXPORT Pool final : public vtui_pool
     bool maintain();
 
     /// Takes a message that the terminal sent while the pool is live, gives it to the component that it concerns, and
-    /// says what it is. What the operator changed by it is noted in the objects before: numbers, texts, latched
+    /// says what it is. Before that it notes in the objects what the operator changed: numbers, texts, latched
     /// buttons. Refused commands and records are noted among the problems. What a component throws comes out here.
     Terminal_message receive(const std::uint8_t* message, std::size_t size);
 
@@ -151,7 +151,7 @@ class VTUI_EXPORT Pool final : public vtui_pool
     static constexpr std::size_t most_problems = 64;
 
     /// The link is gone: changes are noted in the objects only, until the next load(). Also happens when the link
-    /// refuses a message, or has become too narrow for a record.
+    /// refuses a message, or when a record fits none of its messages any more.
     void disconnect();
 
     // What the objects see of their pool.

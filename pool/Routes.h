@@ -185,9 +185,10 @@ class VTUI_EXPORT Routes
     bool remove(void* component, Hand_over hand_over_);
 
     std::vector<Route> routes;
-    std::set<std::uint32_t, By_component> in_use{By_component{&routes}}; ///< places of routes
-    std::set<std::uint32_t> removed;                                     ///< the others: no memory is given back
-    std::vector<std::uint32_t> route_of;                                 ///< by object id
+    std::set<std::uint32_t, By_component> in_use{By_component{&routes}}; ///< places of the routes that are in use
+    /// The others, to be used again: they keep their nodes, so that coming and going allocates nothing.
+    std::set<std::uint32_t> removed;
+    std::vector<std::uint32_t> route_of; ///< by object id
     bool current{true};
 };
 

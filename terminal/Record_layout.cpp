@@ -104,6 +104,9 @@ constexpr Set picture = types({Type::picture_graphic}) | or_null;
 constexpr Set number_variable = types({Type::number_variable}) | or_null;
 constexpr Set string_variable = types({Type::string_variable}) | or_null;
 
+/// What most records end with.
+constexpr Part macros{Field::macros, pairs, 0, macro};
+
 // Which codes a field knows. Sets of option bits are not limited: a bit without a meaning has no effect.
 constexpr Set flag = up_to(1);
 constexpr Set justifications = codes({0, 1, 2, 4, 5, 6, 8, 9, 10});
@@ -123,14 +126,14 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                                {F::n_macros, u8},
                                {F::n_languages, u8},
                                {F::children, children, 0, drawings},
-                               {F::macros, pairs, 0, macro},
+                               macros,
                                {F::languages, pairs}});
     define(Type::data_mask, {{F::background, u8, 1},
                              {F::soft_key_mask, reference, 2, soft_key_mask},
                              {F::n_children, u8},
                              {F::n_macros, u8},
                              {F::children, children, 0, drawings | controls},
-                             {F::macros, pairs, 0, macro}});
+                             macros});
     define(Type::alarm_mask, {{F::background, u8, 1},
                               {F::soft_key_mask, reference, 2, soft_key_mask},
                               {F::priority, u8, 3, up_to(2)},
@@ -138,25 +141,22 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                               {F::n_children, u8},
                               {F::n_macros, u8},
                               {F::children, children, 0, drawings | controls},
-                              {F::macros, pairs, 0, macro}});
+                              macros});
     define(Type::container, {{F::width, u16, 1},
                              {F::height, u16, 2},
                              {F::hidden, u8, 0, flag},
                              {F::n_children, u8},
                              {F::n_macros, u8},
                              {F::children, children, 0, drawings | controls},
-                             {F::macros, pairs, 0, macro}});
-    define(Type::soft_key_mask, {{F::background, u8, 1},
-                                 {F::n_items, u8},
-                                 {F::n_macros, u8},
-                                 {F::items, ids, 0, keys},
-                                 {F::macros, pairs, 0, macro}});
+                             macros});
+    define(Type::soft_key_mask,
+           {{F::background, u8, 1}, {F::n_items, u8}, {F::n_macros, u8}, {F::items, ids, 0, keys}, macros});
     define(Type::key, {{F::background, u8, 1},
                        {F::key_code, u8, 2},
                        {F::n_children, u8},
                        {F::n_macros, u8},
                        {F::children, children, 0, drawings},
-                       {F::macros, pairs, 0, macro}});
+                       macros});
     define(Type::button, {{F::width, u16, 1},
                           {F::height, u16, 2},
                           {F::background, u8, 3},
@@ -166,7 +166,7 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                           {F::n_children, u8},
                           {F::n_macros, u8},
                           {F::children, children, 0, drawings},
-                          {F::macros, pairs, 0, macro}});
+                          macros});
     define(Type::input_boolean, {{F::background, u8, 1},
                                  {F::width, u16, 2},
                                  {F::font, reference, 3, font},
@@ -174,7 +174,7 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                                  {F::value, u8, 0, flag},
                                  {F::enabled, u8, 0, flag},
                                  {F::n_macros, u8},
-                                 {F::macros, pairs, 0, macro}});
+                                 macros});
     define(Type::input_string, {{F::width, u16, 1},
                                 {F::height, u16, 2},
                                 {F::background, u8, 3},
@@ -187,7 +187,7 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                                 {F::bytes, bytes},
                                 {F::enabled, u8, 0, flag},
                                 {F::n_macros, u8},
-                                {F::macros, pairs, 0, macro}});
+                                macros});
     define(Type::input_number, {{F::width, u16, 1},
                                 {F::height, u16, 2},
                                 {F::background, u8, 3},
@@ -204,7 +204,7 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                                 {F::justification, u8, 13, justifications},
                                 {F::options_2, u8, 15},
                                 {F::n_macros, u8},
-                                {F::macros, pairs, 0, macro}});
+                                macros});
     define(Type::input_list, {{F::width, u16, 1},
                               {F::height, u16, 2},
                               {F::variable, reference, 3, number_variable},
@@ -213,7 +213,7 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                               {F::options, u8, 5},
                               {F::n_macros, u8},
                               {F::items, ids, 0, drawings},
-                              {F::macros, pairs, 0, macro}});
+                              macros});
     define(Type::output_string, {{F::width, u16, 1},
                                  {F::height, u16, 2},
                                  {F::background, u8, 3},
@@ -224,7 +224,7 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                                  {F::length, u16},
                                  {F::bytes, bytes},
                                  {F::n_macros, u8},
-                                 {F::macros, pairs, 0, macro}});
+                                 macros});
     define(Type::output_number, {{F::width, u16, 1},
                                  {F::height, u16, 2},
                                  {F::background, u8, 3},
@@ -238,20 +238,20 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                                  {F::format, u8, 10, flag},
                                  {F::justification, u8, 11, justifications},
                                  {F::n_macros, u8},
-                                 {F::macros, pairs, 0, macro}});
+                                 macros});
     define(Type::line, {{F::line_attributes, reference, 1, line},
                         {F::width, u16, 2},
                         {F::height, u16, 3},
                         {F::direction, u8, 4, flag},
                         {F::n_macros, u8},
-                        {F::macros, pairs, 0, macro}});
+                        macros});
     define(Type::rectangle, {{F::line_attributes, reference, 1, line},
                              {F::width, u16, 2},
                              {F::height, u16, 3},
                              {F::suppression, u8, 4},
                              {F::fill_attributes, reference, 5, fill},
                              {F::n_macros, u8},
-                             {F::macros, pairs, 0, macro}});
+                             macros});
     define(Type::ellipse, {{F::line_attributes, reference, 1, line},
                            {F::width, u16, 2},
                            {F::height, u16, 3},
@@ -260,7 +260,7 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                            {F::end_angle, u8, 6},
                            {F::fill_attributes, reference, 7, fill},
                            {F::n_macros, u8},
-                           {F::macros, pairs, 0, macro}});
+                           macros});
     define(Type::polygon, {{F::width, u16, 1},
                            {F::height, u16, 2},
                            {F::line_attributes, reference, 3, line},
@@ -269,7 +269,7 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                            {F::n_points, u8},
                            {F::n_macros, u8},
                            {F::points, points},
-                           {F::macros, pairs, 0, macro}});
+                           macros});
     define(Type::picture_graphic, {{F::width, u16, 1},
                                    {F::actual_width, u16},
                                    {F::actual_height, u16},
@@ -279,7 +279,7 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                                    {F::length, u32},
                                    {F::n_macros, u8},
                                    {F::bytes, bytes},
-                                   {F::macros, pairs, 0, macro}});
+                                   macros});
     define(Type::number_variable, {{F::value, u32}});
     define(Type::string_variable, {{F::length, u16}, {F::bytes, bytes}});
     define(Type::font_attributes, {{F::colour, u8, 1},
@@ -287,22 +287,16 @@ constexpr std::array<Record_layout, n_types> make_layouts()
                                    {F::font_type, u8, 3, character_sets},
                                    {F::font_style, u8, 4},
                                    {F::n_macros, u8},
-                                   {F::macros, pairs, 0, macro}});
-    define(Type::line_attributes, {{F::colour, u8, 1},
-                                   {F::line_width, u8, 2},
-                                   {F::line_art, u16, 3},
-                                   {F::n_macros, u8},
-                                   {F::macros, pairs, 0, macro}});
+                                   macros});
+    define(Type::line_attributes,
+           {{F::colour, u8, 1}, {F::line_width, u8, 2}, {F::line_art, u16, 3}, {F::n_macros, u8}, macros});
     define(Type::fill_attributes, {{F::fill_type, u8, 1, up_to(3)},
                                    {F::colour, u8, 2},
                                    {F::pattern, reference, 3, picture},
                                    {F::n_macros, u8},
-                                   {F::macros, pairs, 0, macro}});
-    define(Type::input_attributes, {{F::validation_type, u8, 1, flag},
-                                    {F::length, u8},
-                                    {F::bytes, bytes},
-                                    {F::n_macros, u8},
-                                    {F::macros, pairs, 0, macro}});
+                                   macros});
+    define(Type::input_attributes,
+           {{F::validation_type, u8, 1, flag}, {F::length, u8}, {F::bytes, bytes}, {F::n_macros, u8}, macros});
     define(Type::object_pointer, {{F::value, reference, 1, drawings | controls | keys | or_null}});
     define(Type::macro, {{F::length, u16}, {F::bytes, bytes}});
     return all;

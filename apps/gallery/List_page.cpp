@@ -71,7 +71,7 @@ void List_page::handle_event(VT::Button_activation_event& event)
     if (!shows_button(event.object_id))
         return;
     list.handle_event(event);
-    if (event.activation_code == Iso::Activation::released && list.was_last_button())
+    if (event.activation_code == Iso::Activation::released)
         say_what_is_chosen();
 }
 

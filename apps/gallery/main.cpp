@@ -146,6 +146,8 @@ void serve(std::uint16_t port, const std::filesystem::path& folder, terminal::Re
     NV_store::Store& settings = gallery.stored().store;
     if (!settings.put_aside().empty())
         std::printf("the settings were damaged: that file is %s now\n", settings.put_aside().c_str());
+    for (const std::string& name : settings.lost())
+        std::printf("the setting \"%s\" is lost\n", name.c_str());
     std::printf("the settings are kept in %s\n", settings.path().c_str());
     std::printf("the terminal is at http://127.0.0.1:%u/ until Ctrl-C\n", unsigned{page.port()});
     std::fflush(stdout);

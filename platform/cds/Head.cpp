@@ -59,7 +59,7 @@ class Hold
 
 Head::Head(void* data, std::size_t data_size) : begin(data), bytes(data_size)
 {
-    if (static_cast<unsigned>(bytes) != bytes) // offsets could not tell all of them apart
+    if (bytes > std::numeric_limits<unsigned>::max())
         throw std::length_error("CDS: data of " + std::to_string(bytes) + " bytes are too large for one store");
     cells.resize(bytes / cell_size + 1);
 }

@@ -42,7 +42,6 @@ class VTUI_EXPORT Virt_access : public Access_base
     /// Ends the registration under that waiter, with null under whichever; a notification on the way is dropped. Does
     /// nothing if there is none.
     void autounreg(waiter_descriptor* waiter);
-    bool is_registered() const { return registered_under != nullptr; }
     /// Asks for a notification of its own, as if the item had changed, if it is registered.
     void ask();
     /// The owner knows already that the item is that. If it still is, a notification on the way is dropped.

@@ -97,11 +97,11 @@ VT::String_variable_obj* Units_man::get_units_string(VT::vtui_pool* pool, units_
     const Quantity& quantity = quantities[type];
     if (VT::String_variable_obj* const made = pool->find_text(quantity.name))
         return made;
-    const auto& [in_metric, in_imperial, in_us] = quantity.units;
-    const std::size_t room =
-        std::max({std::strlen(in_metric.text), std::strlen(in_imperial.text), std::strlen(in_us.text)});
+    std::size_t room = 0;
+    for (const Units& units : quantity.units)
+        room = std::max(room, std::strlen(units.text));
     VT::String_variable_obj& string = pool->make_text(quantity.name, static_cast<std::uint16_t>(room));
-    write(string, in_metric.text);
+    write(string, quantity.units[metric].text);
     return &string;
 }
 

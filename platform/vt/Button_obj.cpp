@@ -4,9 +4,7 @@
 
 namespace VT {
 
-namespace {
-constexpr std::uint8_t disabled = 16;
-}
+namespace {}
 
 void Button_obj::set_background_colour(std::uint8_t colour) { change_background_colour(background_colour, colour); }
 

@@ -22,7 +22,12 @@ class VTUI_EXPORT Button_obj : public Sized_obj, public Object_list, public Macr
     Attribute_colour background_colour;
     Attribute_colour border_colour;
     Attribute_uint8 key_code;
-    Attribute_uint8 options; ///< 1 latchable, 2 latched, 4 suppress border, 8 transparent, 16 disabled, 32 no border
+    // Of the options.
+    static constexpr std::uint8_t latchable = 1;
+    static constexpr std::uint8_t latched = 2;
+    static constexpr std::uint8_t disabled = 16;
+
+    Attribute_uint8 options; ///< these, and 4 suppress border, 8 transparent, 32 no border
 
     /// Sends Change Background Colour if the pool is live.
     void set_background_colour(std::uint8_t colour);

@@ -66,8 +66,8 @@ bool is_own(const Message& message, http::field name, const std::string& before,
 class Connection : public std::enable_shared_from_this<Connection>
 {
   public:
-    Connection(tcp::socket accepted, const Http_service& its_service)
-        : socket(std::move(accepted)), service(its_service), buffer(Http_server::longest_head)
+    Connection(tcp::socket accepted, const Http_service& its_service, const std::vector<std::string>& server_hosts)
+        : socket(std::move(accepted)), service(its_service), own_hosts(server_hosts), buffer(Http_server::longest_head)
     {}
 
     void read()
@@ -77,6 +77,8 @@ class Connection : public std::enable_shared_from_this<Connection>
         parser->header_limit(Http_server::longest_head);
         parser->body_limit(0);
         http::async_read(socket, buffer, *parser, [this, self = shared_from_this()](error_code problem, std::size_t) {
+            if (!socket.is_open()) // given up, although all of it had come
+                return;
             if (!problem)
                 return answer();
             const unsigned refusal = refusal_of(problem);
@@ -119,8 +121,8 @@ class Connection : public std::enable_shared_from_this<Connection>
         const Message& message = parser->get();
         if (message.count(http::field::host) != 1)
             return send({400, {}, {}}, false);
-        const bool is_meant = is_own(message, http::field::host, "", service.hosts) &&
-                              (only_reads(message) || is_own(message, http::field::origin, "http://", service.hosts));
+        const bool is_meant = is_own(message, http::field::host, "", own_hosts) &&
+                              (only_reads(message) || is_own(message, http::field::origin, "http://", own_hosts));
         if (!is_meant)
             return send({403, "text/plain; charset=utf-8", "this is for the page that comes from here"}, false);
         send(service.answer(readable(message)), message.keep_alive());
@@ -164,6 +166,7 @@ class Connection : public std::enable_shared_from_this<Connection>
 
     tcp::socket socket;
     const Http_service& service;
+    const std::vector<std::string>& own_hosts;
     boost::beast::flat_buffer buffer;
     std::optional<http::request_parser<http::empty_body>> parser;
     http::response<http::string_body> response;
@@ -212,7 +215,7 @@ class Http_server::Implementation
         constexpr std::uint16_t usual_port = 80; // which browsers leave out
         const std::string port_part = listening_port == usual_port ? "" : ":" + std::to_string(listening_port);
         for (const char* name : {"127.0.0.1", "localhost", "[::1]"})
-            service.hosts.push_back(name + port_part);
+            own_hosts.push_back(name + port_part);
     }
 
     void accept()
@@ -224,7 +227,7 @@ class Http_server::Implementation
                 return;
             socket.set_option(tcp::no_delay(true), problem);
             make_room();
-            connections.push_back(std::make_shared<Connection>(std::move(socket), service));
+            connections.push_back(std::make_shared<Connection>(std::move(socket), service, own_hosts));
             connections.back()->read();
             accept();
         });
@@ -265,6 +268,7 @@ class Http_server::Implementation
     }
 
     Http_service service;
+    std::vector<std::string> own_hosts; ///< with the port, unless it is 80
     asio::io_context context{1};
     tcp::acceptor acceptor{context};
     std::uint16_t listening_port = 0;

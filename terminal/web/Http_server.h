@@ -34,8 +34,6 @@ struct Http_service
     std::chrono::milliseconds interval;
     std::function<std::chrono::steady_clock::time_point()> now;
     std::vector<std::pair<std::string, std::string>> headers; ///< of every answer
-    /// Hosts that this is, besides 127.0.0.1, localhost and [::1] at its port; with their ports, unless it is 80.
-    std::vector<std::string> hosts;
 };
 
 /// Answers HTTP requests without a body on 127.0.0.1, from construction to destruction, in a thread of its own.

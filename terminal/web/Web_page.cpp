@@ -132,7 +132,6 @@ Web_page::Web_page(Terminal& shown_terminal, Renderer& its_renderer, Screen_choi
     service.interval = settings.between_looks;
     service.now = now;
     service.headers = headers();
-    service.hosts = std::move(settings.hosts);
     server = std::make_unique<Http_server>(port, std::move(service));
 }
 

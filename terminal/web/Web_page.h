@@ -28,11 +28,9 @@ struct Screen_choice
     std::function<void(std::size_t choice)> show; ///< what it throws is shown to the viewer
 };
 
+/// The page's time, which tests make their own.
 struct Web_settings
 {
-    /// The page's hosts besides those of the loopback, if it is reached through others: what stands in its address
-    /// between http:// and the next slash.
-    std::vector<std::string> hosts;
     std::function<std::chrono::steady_clock::time_point()> now = std::chrono::steady_clock::now;
     std::chrono::milliseconds between_looks{100}; ///< at what has taken too long
 };
@@ -114,10 +112,10 @@ class Web_page
     const std::function<void()> operated;
     const std::function<std::chrono::steady_clock::time_point()> now;
     const std::string html;
-    std::mutex mutex; ///< of terminal, renderer, `operated`, the functions of `choice`, and `heard`
+    std::mutex mutex; ///< of terminal, renderer, `operated` and the functions of `choice`
+    // Of the page's thread alone, until it has ended:
     /// When a browser last said something of what it presses; nothing if it presses nothing.
     std::optional<std::chrono::steady_clock::time_point> heard;
-    // Of the page's thread alone:
     std::optional<std::uint32_t> pictured; ///< the revision of the last picture
     std::string last_picture;              ///< as a file
 

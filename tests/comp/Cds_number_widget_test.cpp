@@ -11,6 +11,7 @@
 #include <initializer_list>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <thread>
 #include <type_traits>
@@ -300,18 +301,47 @@ TEST_F(CdsNumberWidget, ShowsWhatTheStoreHoldsAgainWhenUnitsSwitch)
     EXPECT_EQ(std::count(sent.begin(), sent.end(), numeric_value(output_id, 62)), 0) << "not for a moment";
 }
 
+TEST_F(CdsNumberWidget, KeepsAValueThatTheStoreDoesNotHaveWhenUnitsSwitch)
+{
+    data.d = 10;
+    Cds_number_widget<double> field(head, data.d, style(), kilometres, miles, nullptr);
+    go_live(field);
+    field.set_value(50);
+    Units_man imperial = shown_in(Units_man::imperial);
+    field.handle_event(imperial);
+    EXPECT_EQ(field.get_value(), 50);
+    write(data.d, 20.0); // not delivered yet
+    Units_man metric = shown_in(Units_man::metric);
+    field.handle_event(metric);
+    EXPECT_EQ(field.get_value(), 50);
+}
+
+TEST_F(CdsNumberWidget, FollowsTheUnitsWithoutAStore)
+{
+    std::optional<CDS::Head> store(data);
+    Cds_number_widget<double> field(*store, data.d, style(), kilometres, miles, nullptr);
+    field.init(nullptr, nullptr);
+    field.set_size({100, 40});
+    store.reset();
+    Units_man imperial = shown_in(Units_man::imperial);
+    field.handle_event(imperial);
+    EXPECT_EQ(field.system, Units_man::imperial);
+}
+
 TEST_F(CdsNumberWidget, KeepsItsValueWhereNoSystemOfItsQuantityIsChosen)
 {
     Cds_number_widget<double> field(head, data.d, style(), bounded(0, 100, 1, 0, Units_man::speed),
                                     bounded(0, 100, 1, 0, Units_man::mass), bounded(0, 100, 1, 0, Units_man::area),
                                     nullptr);
     go_live(field);
-    data.d = 90; // not delivered yet
+    write(data.d, 190.0);
+    head.deliver();
+    EXPECT_EQ(field.get_value(), 100) << "held within the limits";
     Units_man units;
     units.set_system_type(Units_man::speed, Units_man::us);
     field.handle_event(units);
-    EXPECT_EQ(field.get_value(), 0) << "as the terminal shows it";
-    EXPECT_EQ(field.output_number.value, 0U);
+    EXPECT_EQ(field.get_value(), 100) << "as the terminal shows it";
+    EXPECT_EQ(field.output_number.value, 100U);
 }
 
 TEST_F(CdsNumberWidget, ShowsWhatATypeMakesOfAnEntryEachTime)

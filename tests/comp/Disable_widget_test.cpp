@@ -60,7 +60,7 @@ TEST_F(DisableWidget, StartsEnabledWithTheLargestCover)
     EXPECT_EQ(widget.state_pointer.state, 0U);
     EXPECT_EQ(widget.state_pointer.target, &style.null_pointer);
     EXPECT_EQ(style.null_pointer.target, nullptr) << "shows nothing";
-    EXPECT_EQ(widget.state_pointer.detached, &style.cover_512) << "for a size to come";
+    EXPECT_EQ(&widget.state_pointer.largest, &style.cover_512) << "for a size to come";
     EXPECT_FALSE(std::is_polymorphic_v<Disable_widget>);
     EXPECT_FALSE((std::is_convertible_v<Connection_elements&, Disable_widget>)) << "not by accident";
 }

@@ -27,7 +27,6 @@ TEST_F(StatePointer, StartsWithItsFirstState)
     EXPECT_EQ(pointer.state, 0U);
     EXPECT_EQ(pointer.target, &off);
     EXPECT_EQ(pointer.states, (std::array<VT::VT_obj*, 2>{&off, &on}));
-    EXPECT_EQ(pointer.detached, nullptr);
     EXPECT_EQ(pointer.value, VT::VT_obj::NULL_ID);
 }
 

@@ -255,7 +255,7 @@ TEST_F(NvNumberWidget, ShowsWhatIsStoredAgainWhenUnitsSwitch)
     EXPECT_EQ(distance.output_number.value, 90U);
 }
 
-TEST_F(NvNumberWidget, KeepsItsOwnValueWhenUnitsSwitchWhileItIsHidden)
+TEST_F(NvNumberWidget, KeepsItsOwnValueWhenUnitsSwitch)
 {
     field.start(&waiter);
     field.stop(&waiter);

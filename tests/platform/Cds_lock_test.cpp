@@ -19,8 +19,8 @@
 namespace {
 
 /// What happens while this thread waits for the lock, instead of the waiting; empty: it waits.
-std::function<void()> meanwhile;
-std::vector<int> patience; ///< for how long it asked for the lock, in milliseconds, each time
+thread_local std::function<void()> meanwhile;
+thread_local std::vector<int> patience; ///< for how long it asked for the lock, in milliseconds, each time
 
 } // namespace
 

@@ -38,8 +38,9 @@ bool watching = false;
 
 const QMutex* watched_lock = nullptr;
 std::function<void()> before_unlock; ///< of the watched lock
-std::function<void()> before_reading_an_event;
-int events_written = 0;
+// Of this thread's own calls.
+thread_local std::function<void()> before_reading_an_event;
+thread_local int events_written = 0;
 
 /// The function that this program's one stands before.
 template <class Function>
@@ -81,8 +82,8 @@ extern "C" {
 
 VTUI_EXPORT int eventfd_read(int descriptor, eventfd_t* count)
 {
-    if (const auto now = std::exchange(before_reading_an_event, nullptr))
-        now();
+    if (before_reading_an_event)
+        std::exchange(before_reading_an_event, nullptr)();
     static const auto read = original<int(int, eventfd_t*)>("eventfd_read");
     return read(descriptor, count);
 }

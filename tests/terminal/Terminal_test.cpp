@@ -208,6 +208,7 @@ TEST(Terminal, IgnoresAnswersToItsEventsAndMessagesThatAreTooShort)
     for (int function = 0; function < 0x10; ++function)
         EXPECT_TRUE(session.ask(message(function)).empty());
     EXPECT_TRUE(session.ask(join(0xC0, 0xFF, 0, 0, 0)).empty());
+    EXPECT_FALSE(session.ask(join(0xC0, 0xFF, 0, 0, 0, 0)).empty()) << "that has all its bytes";
     EXPECT_TRUE(session.ask({0xFF}).empty());
 }
 
@@ -296,6 +297,7 @@ TEST(Terminal, TellsOfTextsThatTheOperatorEnters)
     session.sent.clear();
     EXPECT_FALSE(session.terminal.enter_text(input_string, "nine char"));
     EXPECT_FALSE(session.terminal.enter_text(output_string, "a"));
+    EXPECT_FALSE(session.terminal.enter_text(9999, "a"));
     session.ask(message(0xAF, w(input_string), 7, d(null_id)));
     session.sent.clear();
     EXPECT_TRUE(session.terminal.enter_text(input_string, "five5"));

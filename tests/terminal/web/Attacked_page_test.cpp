@@ -197,20 +197,6 @@ TEST_F(AttackedPage, IsReadUnderItsOwnNameOnly)
     EXPECT_EQ(refused.header("X-Frame-Options"), "DENY");
 }
 
-TEST_F(AttackedPage, HasFurtherNamesThatTheApplicationGivesIt)
-{
-    Web_settings settings = clock.settings();
-    settings.hosts = {"cab.example:8443", "cab.example"};
-    const Web_page named(session.terminal, renderer, {}, nullptr, 0, settings);
-    const Http_client viewer(named.port());
-    for (const std::string& host : settings.hosts) {
-        EXPECT_EQ(viewer.get("/entry", "Host: " + host + "\r\n").status, 200);
-        EXPECT_EQ(viewer.post("/hold", "Host: " + host + "\r\nOrigin: http://" + host + "\r\n").status, 200);
-    }
-    EXPECT_EQ(viewer.get("/entry").status, 200);
-    EXPECT_EQ(viewer.get("/entry", "Host: cab.example:8080\r\n").status, 403);
-}
-
 TEST_F(AttackedPage, HearsSixteenBrowsersThatHoldAKeyAtOnce)
 {
     constexpr std::size_t tabs = 16, connections_of_a_browser = 6;

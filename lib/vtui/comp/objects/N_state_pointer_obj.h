@@ -28,8 +28,6 @@ class VTUI_EXPORT N_state_pointer_obj : public Object_pointer_obj
 
     std::size_t state{0};
     std::array<VT::VT_obj*, N> states;
-    /// Not owned: what a state may come to show later. The pool takes it in too, with all below it.
-    VT::VT_obj* detached{nullptr};
 };
 
 extern template class N_state_pointer_obj<2>;

@@ -45,8 +45,10 @@ void Cds_number_widget<T>::handle_cds_value(T v)
 template <class T>
 void Cds_number_widget<T>::handle_event(Units_man& units_man)
 {
-    const auto stored = static_cast<double>(Mixin::read());
-    follow(units_man, &stored);
+    if (Mixin::is_bound())
+        switch_units(units_man, static_cast<double>(Mixin::read()));
+    else
+        switch_units(units_man);
 }
 
 #define VTUI_INSTANTIATE(T)                                                                                            \

@@ -34,8 +34,8 @@ class VTUI_EXPORT Cds_number_widget : public Number_widget, public Cds_widget_mi
     void handle_cds_value(T v);
 
     using Number_widget::handle_event;
-    /// As that of Number_widget, but shows what the store holds, whatever limits have cut off the field's own value
-    /// before. Not with the store's lock held.
+    /// As that of Number_widget; but where the limits of one system have cut what the store holds, the next system
+    /// starts from what the store holds, not from what was left. Not with the store's lock held.
     void handle_event(Units_man& units_man);
 };
 

@@ -38,10 +38,13 @@ class VTUI_EXPORT Cds_widget_mixin : public CDS::Access<T, CDS::Virt_access>
         head.release();
     }
 
+    /// False when there is no store any more.
+    bool is_bound() const { return this->variable && this->access.head(); }
+
   private:
     void check() const
     {
-        if (!this->variable || !this->access.head())
+        if (!is_bound())
             Bugger::report_bug("CDS: Tried to set with no init");
     }
 };

@@ -26,7 +26,8 @@ class VTUI_EXPORT List_separator
 /// buttons (Filler, or `items[i].set_content()`) and hides the others.
 ///
 /// Route the list; or, to know when the operator has selected, route a class of the application's own that hands it the
-/// events, asks was_last_button() after a release, and has an outlying_controls() that returns the list's.
+/// events, asks was_last_button() after a release, and has an outlying_controls() that returns the list's. A terminal
+/// may name a button that is hidden, and the list selects it: check get_selected_item() before you use it as an index.
 template <unsigned ITEMS, unsigned GAP>
 class VTUI_EXPORT Custom_select_widget : public List_separator, public Custom_list_widget<2 * ITEMS, GAP>
 {

@@ -4,11 +4,11 @@
 
 namespace VT::Comp {
 
-Disable_widget::Disable_widget(Connection_elements& style)
-    : elements(style), state_pointer({&style.null_pointer, &style.cover_512})
-{
-    state_pointer.detached = &style.cover_512; // all the others lie in it
-}
+Cover_pointer::Cover_pointer(Connection_elements& style)
+    : N_state_pointer_obj({&style.null_pointer, &style.cover_512}), largest(style.cover_512)
+{}
+
+Disable_widget::Disable_widget(Connection_elements& style) : elements(style), state_pointer(style) {}
 
 void Disable_widget::set_size(Dimension size)
 {

@@ -7,6 +7,15 @@
 
 namespace VT::Comp {
 
+/// Shows nothing or one of the style's covers. The pool takes in all of them: it may be another one later.
+class VTUI_EXPORT Cover_pointer final : public N_state_pointer_obj<2>
+{
+  public:
+    explicit Cover_pointer(Connection_elements& style);
+
+    VT::VT_obj& largest; ///< in which all other covers lie
+};
+
 /// Makes a component look disabled: a pointer at a stippled cover, or at nothing. It only looks so: what lies below
 /// still reacts. The owner places root() over the component, at its top left corner. The cover is not cut to the
 /// component: 100 × 40 pixels get the one of 128 × 128. The style outlives it. The pool takes in all covers with it, so
@@ -25,7 +34,7 @@ class VTUI_EXPORT Disable_widget
     N_state_pointer_obj<2>& root() { return state_pointer; }
 
     Connection_elements& elements;
-    N_state_pointer_obj<2> state_pointer;
+    Cover_pointer state_pointer;
 };
 
 } // namespace VT::Comp

@@ -242,16 +242,22 @@ bool Number_widget::is_child(const VT::VT_obj& number)
     return placements.placements[touch_slot].ref == &number || placements.placements[number_slot].ref == &number;
 }
 
-void Number_widget::set_value(double v)
+/// Within the limits.
+double Number_widget::held(double v) const
 {
     const Specification& s = specifications[system];
     if (is_bounded(s)) {
         v = v > s.min ? v : s.min; // not a number: the lowest
         v = s.max > v ? v : s.max;
     }
-    value = v;
+    return v;
+}
 
-    const std::uint32_t raw = Conversion::to_uint32(to_steps(v) - output_number.offset);
+void Number_widget::set_value(double v)
+{
+    value = held(v);
+
+    const std::uint32_t raw = Conversion::to_uint32(to_steps(value) - output_number.offset);
     output_number.set_value(raw);
     if (is_child(input_number))
         input_number.set_value(raw);
@@ -299,14 +305,15 @@ void Number_widget::handle_event(const VT_information& terminal)
         std::swap(lowest.ref, placements.placements[number_slot].ref);
 }
 
-void Number_widget::handle_event(Units_man& units_man) { follow(units_man, nullptr); }
+void Number_widget::handle_event(Units_man& units_man) { switch_units(units_man); }
 
-void Number_widget::follow(Units_man& units_man, const double* stored)
+void Number_widget::switch_units(Units_man& units_man, std::optional<double> stored)
 {
+    const bool is_what_is_left = stored && held(*stored) == value;
     for (const auto candidate : {Units_man::metric, Units_man::imperial, Units_man::us}) {
         if (units_man.get_system_type(specifications[candidate].units_type) != candidate)
             continue;
-        if (stored)
+        if (is_what_is_left)
             value = *stored;
         set_system(candidate); // of several the last one stays
     }

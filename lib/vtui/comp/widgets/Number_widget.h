@@ -13,6 +13,7 @@
 #include "vtui/comp/objects/Output_string_obj.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace VT {
 class vtui_pool;
@@ -154,16 +155,17 @@ class VTUI_EXPORT Number_widget : public Widget
     Point layout_origin;
 
   protected:
-    /// True if `v`, engineering units, is shown as get_value() is: both are the same number of steps. Limits do not
-    /// count.
+    /// True if the field would show `v`, engineering units, as it shows its present value: both are the same number of
+    /// steps. Limits do not count.
     bool looks_like(double v) const { return to_steps(v) == to_steps(value); }
-    /// As handle_event(), and if a system is chosen the field shows `stored` there, if there is one: its own value may
-    /// have been cut by the limits of the system before.
-    void follow(Units_man& units_man, const double* stored);
+    /// What handle_event() does. If the field's value is what limits have left of `stored`, engineering units, the
+    /// other system starts from that again.
+    void switch_units(Units_man& units_man, std::optional<double> stored = {});
 
   private:
     bool is_child(const VT::VT_obj& number);
     void show_units();
+    double held(double v) const;
     double to_steps(double v) const;
 };
 

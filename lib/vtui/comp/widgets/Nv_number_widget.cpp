@@ -76,9 +76,7 @@ void Nv_number_widget<N>::handle_event()
 template <class N>
 void Nv_number_widget<N>::handle_event(Units_man& units_man)
 {
-    // A field that nobody watches shows nothing new of the store.
-    const auto stored = static_cast<double>(Access::number().get());
-    follow(units_man, Access::is_registered() ? &stored : nullptr);
+    switch_units(units_man, static_cast<double>(Access::number().get()));
 }
 
 #define VTUI_INSTANTIATE(T, code) VTUI_NV_NUMBER_WIDGET(T, code)

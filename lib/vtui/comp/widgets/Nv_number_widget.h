@@ -38,8 +38,8 @@ class VTUI_EXPORT Nv_number_widget : public Number_widget, public NV_store::Acce
     using Number_widget::handle_event;
     /// start() or stop().
     void handle_event(Visible_event event);
-    /// As that of Number_widget, but between start() and stop() shows what is stored, whatever limits have cut off the
-    /// field's own value before.
+    /// As that of Number_widget; but where the limits of one system have cut what is stored, the next system starts
+    /// from what is stored, not from what was left.
     void handle_event(Units_man& units_man);
 
     /// Sets the stored number. The field keeps showing what was entered if what the number's type makes of it looks the

@@ -57,8 +57,7 @@ class VTUI_EXPORT Scroll_horizontal_widget
     static short new_location_right(unsigned short visible, unsigned short content, short current);
 
     /// Fits the indicator to widths and offset; the track becomes `visible` pixels wide, the content stays where it is.
-    /// Sends nothing. Content that does not overflow has no bar: the track
-    /// loses its height.
+    /// Sends nothing. Content that does not overflow has no bar: the track loses its height.
     void set_indicator(unsigned short content, unsigned short visible, short offset);
 
     /// Scrolls in half windows until the `width` pixels of the content from `x` on are visible, and uploads once; if

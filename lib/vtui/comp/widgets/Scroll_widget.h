@@ -65,8 +65,7 @@ class VTUI_EXPORT Scroll_widget
     static short new_location_down(unsigned short visible, unsigned short content, short current);
 
     /// Fits the indicator to heights and offset and sends its position; the track becomes `visible` pixels high, the
-    /// content stays where it is. Content that does not overflow has no bar and
-    /// sends nothing.
+    /// content stays where it is. Content that does not overflow has no bar and sends nothing.
     void set_indicator(unsigned short content, unsigned short visible, short offset);
 
     Container_obj container;

@@ -31,8 +31,8 @@ class VTUI_EXPORT Title_widget
     /// purpose: after many it no longer fills the bar. Sends nothing: in a live pool follow with root().upload(true).
     void set_size(Dimension size);
     /// Pixels: a margin around all the characters that the text may have, or only the margin where a text or a font is
-    /// missing. Too narrow for one line: set_size() keeps two font heights free, this adds half of one
-    /// and 8 pixels.
+    /// missing. Too narrow for one line: set_size() keeps two font heights free, this adds half of one and
+    /// 8 pixels.
     Dimension get_preferred_size() const;
 
     /// Sends Hide/Show if the pool is live.

@@ -1,4 +1,4 @@
-#include "pool/Entry.h"
+#include "pool/Operator_change.h"
 
 #include "vtui/comp/objects/Button_obj.h"
 #include "vtui/comp/objects/Input_number_obj.h"
@@ -67,7 +67,7 @@ bool takes_numbers(Type type)
 
 } // namespace
 
-void note_entry(const Object_table& objects, const VT_change_numeric_value_event& entered)
+void note_change(const Object_table& objects, const VT_change_numeric_value_event& entered)
 {
     VT_obj* const input = objects.find(entered.object_id);
     if (!input || !takes_numbers(input->get_type()))
@@ -85,7 +85,7 @@ void note_entry(const Object_table& objects, const VT_change_numeric_value_event
     }
 }
 
-void note_entry(const Object_table& objects, const VT_change_string_value_event& entered)
+void note_change(const Object_table& objects, const VT_change_string_value_event& entered)
 {
     VT_obj* const input = objects.find(entered.object_id);
     if (!input || input->get_type() != Type::input_string)
@@ -100,21 +100,19 @@ void note_entry(const Object_table& objects, const VT_change_string_value_event&
     text->set_told();
 }
 
-void note_entry(const Object_table& objects, const Button_activation_event& activation)
+void note_change(const Object_table& objects, const Button_activation_event& activation)
 {
-    constexpr unsigned latchable = 1;
-    constexpr unsigned latched = 2;
     VT_obj* const button = objects.find(activation.object_id);
     if (!button || button->get_type() != Type::button)
         return;
     auto* const options = find<Comp::Button_obj>(*button, &Button_obj::options, "options");
-    if (!options || !(*options & latchable))
+    if (!options || !(*options & Button_obj::latchable))
         return;
     const bool other_change = options->changed(); // which the terminal has yet to be told
     if (activation.activation_code == Iso::Activation::pressed)
-        *options = static_cast<std::uint8_t>(*options | latched);
+        *options = static_cast<std::uint8_t>(*options | Button_obj::latched);
     else if (activation.activation_code == Iso::Activation::released)
-        *options = static_cast<std::uint8_t>(*options & ~latched);
+        *options = static_cast<std::uint8_t>(*options & ~Button_obj::latched);
     if (!other_change)
         options->set_told();
 }
