@@ -307,8 +307,10 @@ TEST(PoolLive, HasRoomForItsLargestRecordWhereverThatStands)
     for (const bool first : {true, false}) {
         Screen screen;
         C::Rectangle_obj rectangle;
-        using Order = std::initializer_list<VT::VT_obj*>;
-        for (VT::VT_obj* object : first ? Order{&picture, &rectangle} : Order{&rectangle, &picture})
+        VT::VT_obj* objects[] = {&picture, &rectangle};
+        if (!first)
+            std::swap(objects[0], objects[1]);
+        for (VT::VT_obj* const object : objects)
             screen.pool.add(*object);
         Drain terminal;
         ASSERT_TRUE(screen.pool.load(terminal));
