@@ -420,13 +420,15 @@ TEST_F(NvFile, IsPutAsideUnderAFreeName)
 TEST_F(NvFile, ThatIsPutAsideLeavesTheNewestThree)
 {
     std::ofstream(aside(1) + "-wal") << "of the first";
-    std::ofstream(path + ".damaged-9999999999") << "none of ours";
+    for (const char* far_too_high : {"4000000000", "9999999999"})
+        std::ofstream(path + ".damaged-" + far_too_high) << "none of ours";
     for (int n = 2; n < 6; ++n) {
         write_file("no database " + std::to_string(n) + std::string(5000, 'x'));
         expect_put_aside(n);
     }
-    EXPECT_EQ(files(), (Names{"settings.db", "settings.db.damaged-3", "settings.db.damaged-4", "settings.db.damaged-5",
-                              "settings.db.damaged-9999999999"}));
+    EXPECT_EQ(files(),
+              (Names{"settings.db", "settings.db.damaged-3", "settings.db.damaged-4", "settings.db.damaged-4000000000",
+                     "settings.db.damaged-5", "settings.db.damaged-9999999999"}));
 }
 
 TEST_F(NvFile, ThatWasCutOffIsPutAside)

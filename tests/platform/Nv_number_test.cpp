@@ -248,6 +248,7 @@ TEST_F(NvNumber, IsWrittenSoonWithoutAFlush)
     using namespace std::chrono_literals;
     Store store(path, 1ms);
     Double rate(store, "rate", 200);
+    store.flush(); // from here on the writing thread waits to be told
     const std::string before = content(path);
     rate.set(1);
     for (int i = 0; i < 1000 && content(path) == before; ++i)
