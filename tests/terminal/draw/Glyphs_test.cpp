@@ -7,7 +7,10 @@
 #include "terminal/draw/Small_font.h"
 #include "terminal/draw/Text.h"
 
+#include <QTemporaryDir>
+
 #include <algorithm>
+#include <fstream>
 #include <map>
 #include <ostream>
 #include <stdexcept>
@@ -327,6 +330,26 @@ TEST(Glyphs, TellWhichFontIsMissing)
     } catch (const std::runtime_error& error) {
         EXPECT_NE(std::string(error.what()).find("/nowhere/DejaVuSansMono.ttf"), std::string::npos);
     }
+}
+
+TEST(Glyphs, OfAFontWithoutOutlinesAreBlank)
+{
+    // Made for exactly the height that size 2 asks for, so that FreeType has its pixels at hand.
+    const std::string font = "STARTFONT 2.1\n"
+                             "FONT -a-a-Medium-R-Normal--11-110-72-72-C-80-ISO10646-1\n"
+                             "SIZE 11 72 72\n"
+                             "FONTBOUNDINGBOX 8 11 0 0\n"
+                             "STARTPROPERTIES 3\nPIXEL_SIZE 11\n"
+                             "CHARSET_REGISTRY \"ISO10646\"\nCHARSET_ENCODING \"1\"\nENDPROPERTIES\n"
+                             "CHARS 1\n"
+                             "STARTCHAR A\nENCODING 65\nSWIDTH 727 0\nDWIDTH 8 0\nBBX 8 2 0 0\n"
+                             "BITMAP\nFF\nFF\nENDCHAR\n"
+                             "ENDFONT\n";
+    const QTemporaryDir folder;
+    for (const char* const name : {"/DejaVuSansMono.ttf", "/DejaVuSansMono-Bold.ttf"})
+        std::ofstream(folder.path().toStdString() + name) << font;
+    Glyphs glyphs(folder.path().toStdString());
+    EXPECT_EQ(glyphs.glyph(2, false, false, 'A').count, 0u);
 }
 
 TEST(Glyphs, LookAsTheyDidInEverySizeAndStyle)

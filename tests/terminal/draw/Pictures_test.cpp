@@ -25,6 +25,15 @@ std::string shown(const Picture& what, int width, int canvas_width, int canvas_h
     return drawn(canvas_width, canvas_height, [&](const View& view) { draw_picture(view, what, width); });
 }
 
+/// The same where everything was of colour 1.
+std::string shown_on_1(const Picture& what, int width, int canvas_width, int canvas_height)
+{
+    return drawn(canvas_width, canvas_height, [&](const View& view) {
+        view.fill(view.visible(), 1);
+        draw_picture(view, what, width);
+    });
+}
+
 const Bytes two_by_two{2, 3, 4, 5};
 
 TEST(Picture, OfOneBitStartsEachRowOnAByte)
@@ -59,12 +68,7 @@ TEST(Picture, LeavesTransparentPixelsOut)
 {
     Picture some = picture(two_by_two, 2, 2, 8);
     some.transparent = 4;
-    EXPECT_EQ(drawn(2, 2,
-                    [&](const View& view) {
-                        view.fill({0, 0, 2, 2}, 1);
-                        draw_picture(view, some, 2);
-                    }),
-              "\n23\n#5\n");
+    EXPECT_EQ(shown_on_1(some, 2, 2, 2), "\n23\n#5\n");
 }
 
 TEST(Picture, GrowsByWholePixels)
@@ -130,8 +134,8 @@ TEST(Picture, WithoutASizeIsNotDrawn)
 
 TEST(Picture, WithTooFewBytesLeavesTheRestUndrawn)
 {
-    EXPECT_EQ(shown(picture({2, 3, 4}, 2, 2, 8), 2, 2, 2), "\n23\n4.\n");
-    EXPECT_EQ(shown(picture({}, 2, 2, 8), 2, 2, 2), "\n..\n..\n");
+    EXPECT_EQ(shown_on_1(picture({2, 3, 4}, 2, 2, 8), 2, 2, 2), "\n23\n4#\n");
+    EXPECT_EQ(shown_on_1(picture({}, 2, 2, 8), 2, 2, 2), "\n##\n##\n");
 }
 
 TEST(RunLengthPicture, IsPairsOfCountAndValueAcrossRows)
@@ -152,8 +156,8 @@ TEST(RunLengthPicture, SkipsRunsOfNothing)
 
 TEST(RunLengthPicture, ThatEndsEarlyLeavesTheRestUndrawn)
 {
-    EXPECT_EQ(shown(runs({3, 2}, 2, 2, 8), 2, 2, 2), "\n22\n2.\n");
-    EXPECT_EQ(shown(runs({3, 2, 7}, 2, 2, 8), 2, 2, 2), "\n22\n2.\n");
+    EXPECT_EQ(shown_on_1(runs({3, 2}, 2, 2, 8), 2, 2, 2), "\n22\n2#\n");
+    EXPECT_EQ(shown_on_1(runs({3, 2, 7}, 2, 2, 8), 2, 2, 2), "\n22\n2#\n");
 }
 
 TEST(RunLengthPicture, ThatRunsOverIsCut)
@@ -208,6 +212,14 @@ TEST(Tiling, RepeatsThePictureFromTheTopLeftCorner)
 )");
 }
 
+TEST(Tiling, RepeatsAPictureOnePixelWideOrHigh)
+{
+    EXPECT_EQ(drawn(4, 3, [](const View& view) { tile_picture(view, picture(two_by_two, 1, 2, 8)); }),
+              "\n2222\n3333\n2222\n");
+    EXPECT_EQ(drawn(4, 3, [](const View& view) { tile_picture(view, picture(two_by_two, 2, 1, 8)); }),
+              "\n2323\n2323\n2323\n");
+}
+
 TEST(Tiling, UnpacksRunsOverAndOver)
 {
     EXPECT_EQ(drawn(7, 5,
@@ -230,15 +242,7 @@ TEST(Tiling, LeavesTransparentPixelsAsTheyWere)
     EXPECT_EQ(drawn(4, 2, [&](const View& view) { tile_picture(view, some); }), "\n2.2.\n4545\n");
 }
 
-TEST(Picture, DrawsColourZeroAsAnyOther)
-{
-    EXPECT_EQ(drawn(3, 1,
-                    [](const View& view) {
-                        view.fill({0, 0, 3, 1}, 1);
-                        draw_picture(view, picture({0, 2, 0}, 3, 1, 8), 3);
-                    }),
-              "\n.2.\n");
-}
+TEST(Picture, DrawsColourZeroAsAnyOther) { EXPECT_EQ(shown_on_1(picture({0, 2, 0}, 3, 1, 8), 3, 3, 1), "\n.2.\n"); }
 
 TEST(Picture, WiderThanAStripIsDrawnWhole)
 {

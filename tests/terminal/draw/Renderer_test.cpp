@@ -270,6 +270,15 @@ TEST_F(Drawing, ShowsTheChosenItemOfAnInputList)
               "\n...\n...\n...\n");
 }
 
+TEST_F(Drawing, ShowsAnyNumberOfInputListsSideBySide)
+{
+    const Id list = builder.input_list(1, 1, 0, {dot});
+    Pool_builder::Places lists;
+    for (int x = 0; x < 200; ++x)
+        lists.push_back({list, x, 0});
+    EXPECT_EQ(mask(lists, 200).substr(1, 200), std::string(200, '#'));
+}
+
 TEST_F(Drawing, PutsAButtonsChildrenOnItsFaceInsideTheBorder)
 {
     const Id wide = builder.rectangle(9, 1, line_1);

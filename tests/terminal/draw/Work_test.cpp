@@ -192,6 +192,23 @@ TEST(Work, OfRunsIsThatOfPassingThemOnceHoweverOftenTheyAreShown)
     EXPECT_EQ(drawn(6, 2, from_second), "\n323232\n323232\n");
 }
 
+TEST(Work, OfARowOfRunsThatStartsOverIsThatOfTheRowAndNotOfThoseAboveIt)
+{
+    constexpr int rows = 100;
+    constexpr int empty_in_row = 100;
+    Bytes runs;
+    for (int row = 0; row < rows; ++row) {
+        const Bytes pair = padded_pair(empty_in_row);
+        runs.insert(runs.end(), pair.begin(), pair.end());
+    }
+    const Picture picture{runs.data(), runs.size(), 2, rows, 8, true, -1};
+    constexpr int three_times_painted = 3 * 100 * 100;
+    EXPECT_LE(work_of([&](const View& view) {
+                  tile_picture(view.inside({-1, 0, 100, 100}), picture);
+              }),
+              2 * rows * empty_in_row + three_times_painted);
+}
+
 TEST(Work, OfRunsEndsWithTheLastVisiblePixel)
 {
     Bytes runs{1, 2, 1, 3};
