@@ -89,11 +89,7 @@ class Glyphs::Face
             throw std::runtime_error("no font in " + file + " (Debian package fonts-dejavu-core)");
         }
     }
-    ~Face()
-    {
-        FT_Done_Face(face); // and its sizes
-        FT_Done_FreeType(library);
-    }
+    ~Face() { FT_Done_FreeType(library); } // and with it the face and its sizes
     Face(const Face&) = delete;
     Face& operator=(const Face&) = delete;
 
