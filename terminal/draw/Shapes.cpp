@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <optional>
 
 namespace terminal {
 
@@ -47,28 +48,28 @@ void stroke(const View& view, const Pen& pen, Position from, Position to)
     // Neighbouring distances that the spot covers from the same to the same pixel across are painted in one go.
     constexpr int work_of_step = 3;
     view.spend(work_of_step * std::int64_t{std::max(0, last - first + 1)});
-    constexpr int no_run = -1;
-    int run_first = no_run;
-    int run_low = 0;
-    int run_high = 0;
+    struct Run
+    {
+        int first;
+        int low;
+        int high;
+    };
+    std::optional<Run> run;
     for (int distance = first; distance <= last; ++distance) {
         const int a = across_at(std::max(0, distance - spot + 1));
         const int b = across_at(std::min(distance, steps));
         const int across_low = std::min(a, b);
         const int across_high = std::max(a, b) + spot;
         const bool drawn = pen.marks(distance);
-        if (run_first != no_run && (!drawn || across_low != run_low || across_high != run_high)) {
-            paint(run_first, distance - 1, run_low, run_high);
-            run_first = no_run;
+        if (run && (!drawn || across_low != run->low || across_high != run->high)) {
+            paint(run->first, distance - 1, run->low, run->high);
+            run.reset();
         }
-        if (drawn && run_first == no_run) {
-            run_first = distance;
-            run_low = across_low;
-            run_high = across_high;
-        }
+        if (drawn && !run)
+            run = {distance, across_low, across_high};
     }
-    if (run_first != no_run)
-        paint(run_first, last, run_low, run_high);
+    if (run)
+        paint(run->first, last, run->low, run->high);
 }
 
 void draw_line(const View& view, int width, int height, bool rising, const Pen& pen)
@@ -123,9 +124,8 @@ void draw_polygon(const View& view, int width, int height, const Position* point
                 if (y < upper.y || y >= lower.y)
                     continue;
                 const std::int64_t run = std::int64_t{lower.x - upper.x} * (y - upper.y);
-                const int rise = lower.y - upper.y;
-                // Rounded down; the pixels of the edges are added below.
-                const std::int64_t moved = run >= 0 ? run / rise : -((-run + rise - 1) / rise);
+                // Rounded down, or to one less where negative and exact: the pixels of the edges are added below.
+                const std::int64_t moved = run / (lower.y - upper.y) - (run < 0);
                 crossings[n++] = upper.x + static_cast<int>(moved);
             }
             std::sort(crossings.begin(), crossings.begin() + n);
